@@ -1,0 +1,9 @@
+# The sources of the library. A new family adds its files to ORBS_VARIANT_SOURCES; each is compiled once per variant.
+
+set(ORBS_VARIANT_SOURCES
+    frame/version.cpp
+    gen/companding.cpp)
+
+# Compiled once: what lies below the variants, and what stands in front of them.
+set(ORBS_COMMON_SOURCES frame/cache.cpp frame/cpuid.cpp frame/memory.cpp frame/processor.cpp)
+set(ORBS_BOUNDARY_SOURCES frame/init.cpp frame/stubs.S)

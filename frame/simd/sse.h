@@ -1,0 +1,329 @@
+// 128-bit vectors, SSE2 to SSE4.1. Where a level has an instruction that the one below lacks, the function
+// says so inside; kernels do not ask.
+#ifndef ORBS_FRAME_SIMD_SSE_H
+#define ORBS_FRAME_SIMD_SSE_H
+
+#include <immintrin.h>
+
+#include "frame/variant.h"
+#include "orbs90lgc/types.h"
+
+namespace orbs::ORBS_VARIANT {
+
+struct F32x4 {
+  using Lane = Orb32f;
+  static constexpr int kLanes = 4;
+  __m128 v;
+  static ORBS_INLINE F32x4 Load(const Orb32f* p) { return {_mm_loadu_ps(p)}; }
+  static ORBS_INLINE F32x4 All(Orb32f x) { return {_mm_set1_ps(x)}; }
+  static ORBS_INLINE F32x4 Zero() { return {_mm_setzero_ps()}; }
+  ORBS_INLINE void Store(Orb32f* p) const { _mm_storeu_ps(p, v); }
+};
+
+struct F64x2 {
+  using Lane = Orb64f;
+  static constexpr int kLanes = 2;
+  __m128d v;
+  static ORBS_INLINE F64x2 Load(const Orb64f* p) { return {_mm_loadu_pd(p)}; }
+  static ORBS_INLINE F64x2 All(Orb64f x) { return {_mm_set1_pd(x)}; }
+  static ORBS_INLINE F64x2 Zero() { return {_mm_setzero_pd()}; }
+  ORBS_INLINE void Store(Orb64f* p) const { _mm_storeu_pd(p, v); }
+};
+
+struct I32x4 {
+  using Lane = Orb32s;
+  static constexpr int kLanes = 4;
+  __m128i v;
+  static ORBS_INLINE I32x4 Load(const Orb32s* p) {
+    return {_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))};
+  }
+  static ORBS_INLINE I32x4 All(Orb32s x) { return {_mm_set1_epi32(x)}; }
+  static ORBS_INLINE I32x4 Zero() { return {_mm_setzero_si128()}; }
+  ORBS_INLINE void Store(Orb32s* p) const { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
+};
+
+struct I16x8 {
+  using Lane = Orb16s;
+  static constexpr int kLanes = 8;
+  __m128i v;
+  static ORBS_INLINE I16x8 Load(const Orb16s* p) {
+    return {_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))};
+  }
+  static ORBS_INLINE I16x8 All(Orb16s x) { return {_mm_set1_epi16(x)}; }
+  static ORBS_INLINE I16x8 Zero() { return {_mm_setzero_si128()}; }
+  ORBS_INLINE void Store(Orb16s* p) const { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
+};
+
+struct U8x16 {
+  using Lane = Orb8u;
+  static constexpr int kLanes = 16;
+  __m128i v;
+  static ORBS_INLINE U8x16 Load(const Orb8u* p) {
+    return {_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))};
+  }
+  static ORBS_INLINE U8x16 All(Orb8u x) { return {_mm_set1_epi8(static_cast<char>(x))}; }
+  ORBS_INLINE void Store(Orb8u* p) const { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
+};
+
+// ---- binary32 and binary64, the same set for both ----
+//
+// Min and Max give their second operand when either is a NaN, as the instructions do; so Min(bound, x) and
+// Max(bound, x) let a NaN in x pass. MulAdd is fused in h9 and two roundings elsewhere.
+
+#define ORBS_FLOAT_OPERATIONS(F, s)                                           \
+  ORBS_INLINE F operator+(F a, F b) { return {_mm_add_##s(a.v, b.v)}; }       \
+  ORBS_INLINE F operator-(F a, F b) { return {_mm_sub_##s(a.v, b.v)}; }       \
+  ORBS_INLINE F operator*(F a, F b) { return {_mm_mul_##s(a.v, b.v)}; }       \
+  ORBS_INLINE F operator/(F a, F b) { return {_mm_div_##s(a.v, b.v)}; }       \
+  ORBS_INLINE F operator&(F a, F b) { return {_mm_and_##s(a.v, b.v)}; }       \
+  ORBS_INLINE F operator|(F a, F b) { return {_mm_or_##s(a.v, b.v)}; }        \
+  ORBS_INLINE F operator^(F a, F b) { return {_mm_xor_##s(a.v, b.v)}; }       \
+  ORBS_INLINE F AndNot(F mask, F a) { return {_mm_andnot_##s(mask.v, a.v)}; } \
+  ORBS_INLINE F Min(F a, F b) { return {_mm_min_##s(a.v, b.v)}; }             \
+  ORBS_INLINE F Max(F a, F b) { return {_mm_max_##s(a.v, b.v)}; }             \
+  ORBS_INLINE F Sqrt(F a) { return {_mm_sqrt_##s(a.v)}; }                     \
+  ORBS_INLINE F Less(F a, F b) { return {_mm_cmplt_##s(a.v, b.v)}; }          \
+  ORBS_INLINE F LessEqual(F a, F b) { return {_mm_cmple_##s(a.v, b.v)}; }     \
+  ORBS_INLINE F Equal(F a, F b) { return {_mm_cmpeq_##s(a.v, b.v)}; }         \
+  ORBS_INLINE F IsNan(F a) { return {_mm_cmpunord_##s(a.v, a.v)}; }           \
+  ORBS_INLINE int SignBits(F a) { return _mm_movemask_##s(a.v); }
+
+ORBS_FLOAT_OPERATIONS(F32x4, ps)
+ORBS_FLOAT_OPERATIONS(F64x2, pd)
+#undef ORBS_FLOAT_OPERATIONS
+
+// mask lane all ones: a, all zeros: b.
+template <class F>
+ORBS_INLINE F Select(F mask, F a, F b) {
+  return (mask & a) | AndNot(mask, b);
+}
+
+#ifdef __FMA__
+ORBS_INLINE F32x4 MulAdd(F32x4 a, F32x4 b, F32x4 c) { return {_mm_fmadd_ps(a.v, b.v, c.v)}; }
+ORBS_INLINE F64x2 MulAdd(F64x2 a, F64x2 b, F64x2 c) { return {_mm_fmadd_pd(a.v, b.v, c.v)}; }
+#else
+ORBS_INLINE F32x4 MulAdd(F32x4 a, F32x4 b, F32x4 c) { return a * b + c; }
+ORBS_INLINE F64x2 MulAdd(F64x2 a, F64x2 b, F64x2 c) { return a * b + c; }
+#endif
+
+// Even lanes over odd ones, odd over even, pairs swapped, the order of lanes or of pairs reversed.
+#ifdef __SSE3__
+ORBS_INLINE F32x4 DupEven(F32x4 a) { return {_mm_moveldup_ps(a.v)}; }
+ORBS_INLINE F32x4 DupOdd(F32x4 a) { return {_mm_movehdup_ps(a.v)}; }
+#else
+ORBS_INLINE F32x4 DupEven(F32x4 a) { return {_mm_shuffle_ps(a.v, a.v, _MM_SHUFFLE(2, 2, 0, 0))}; }
+ORBS_INLINE F32x4 DupOdd(F32x4 a) { return {_mm_shuffle_ps(a.v, a.v, _MM_SHUFFLE(3, 3, 1, 1))}; }
+#endif
+ORBS_INLINE F32x4 SwapPairs(F32x4 a) { return {_mm_shuffle_ps(a.v, a.v, _MM_SHUFFLE(2, 3, 0, 1))}; }
+ORBS_INLINE F32x4 Reverse(F32x4 a) { return {_mm_shuffle_ps(a.v, a.v, _MM_SHUFFLE(0, 1, 2, 3))}; }
+ORBS_INLINE F32x4 ReversePairs(F32x4 a) { return {_mm_shuffle_ps(a.v, a.v, _MM_SHUFFLE(1, 0, 3, 2))}; }
+ORBS_INLINE F64x2 DupEven(F64x2 a) { return {_mm_unpacklo_pd(a.v, a.v)}; }
+ORBS_INLINE F64x2 DupOdd(F64x2 a) { return {_mm_unpackhi_pd(a.v, a.v)}; }
+ORBS_INLINE F64x2 SwapPairs(F64x2 a) { return {_mm_shuffle_pd(a.v, a.v, 1)}; }
+ORBS_INLINE F64x2 Reverse(F64x2 a) { return SwapPairs(a); }
+ORBS_INLINE F64x2 ReversePairs(F64x2 a) { return a; }
+
+// The sign bit in the odd lanes: what a conjugate flips.
+ORBS_INLINE F32x4 OddSigns(F32x4*) { return {_mm_castsi128_ps(_mm_set_epi32(INT32_MIN, 0, INT32_MIN, 0))}; }
+ORBS_INLINE F64x2 OddSigns(F64x2*) { return {_mm_set_pd(-0.0, 0.0)}; }
+ORBS_INLINE F32x4 EvenSigns(F32x4*) { return {_mm_castsi128_ps(_mm_set_epi32(0, INT32_MIN, 0, INT32_MIN))}; }
+ORBS_INLINE F64x2 EvenSigns(F64x2*) { return {_mm_set_pd(0.0, -0.0)}; }
+
+template <class F>
+ORBS_INLINE F Conjugate(F a) {
+  return a ^ OddSigns(static_cast<F*>(nullptr));
+}
+
+// a b -+ c in even and odd lanes (MulAddSub) and a b +- c (MulSubAdd).
+#if defined(__FMA__)
+ORBS_INLINE F32x4 MulAddSub(F32x4 a, F32x4 b, F32x4 c) { return {_mm_fmaddsub_ps(a.v, b.v, c.v)}; }
+ORBS_INLINE F64x2 MulAddSub(F64x2 a, F64x2 b, F64x2 c) { return {_mm_fmaddsub_pd(a.v, b.v, c.v)}; }
+ORBS_INLINE F32x4 MulSubAdd(F32x4 a, F32x4 b, F32x4 c) { return {_mm_fmsubadd_ps(a.v, b.v, c.v)}; }
+ORBS_INLINE F64x2 MulSubAdd(F64x2 a, F64x2 b, F64x2 c) { return {_mm_fmsubadd_pd(a.v, b.v, c.v)}; }
+#elif defined(__SSE3__)
+ORBS_INLINE F32x4 MulAddSub(F32x4 a, F32x4 b, F32x4 c) { return {_mm_addsub_ps((a * b).v, c.v)}; }
+ORBS_INLINE F64x2 MulAddSub(F64x2 a, F64x2 b, F64x2 c) { return {_mm_addsub_pd((a * b).v, c.v)}; }
+template <class F>
+ORBS_INLINE F MulSubAdd(F a, F b, F c) {
+  return a * b + Conjugate(c);
+}
+#else
+template <class F>
+ORBS_INLINE F MulAddSub(F a, F b, F c) {
+  return a * b + (c ^ EvenSigns(static_cast<F*>(nullptr)));
+}
+template <class F>
+ORBS_INLINE F MulSubAdd(F a, F b, F c) {
+  return a * b + Conjugate(c);
+}
+#endif
+
+// ---- 64-bit integers that live in binary64 lanes: the exponent work of logarithm and exponential ----
+
+ORBS_INLINE F64x2 ShiftLeft64(F64x2 a, int n) {
+  return {_mm_castsi128_pd(_mm_slli_epi64(_mm_castpd_si128(a.v), n))};
+}
+ORBS_INLINE F64x2 ShiftRight64(F64x2 a, int n) {
+  return {_mm_castsi128_pd(_mm_srli_epi64(_mm_castpd_si128(a.v), n))};
+}
+ORBS_INLINE F64x2 Add64(F64x2 a, F64x2 b) {
+  return {_mm_castsi128_pd(_mm_add_epi64(_mm_castpd_si128(a.v), _mm_castpd_si128(b.v)))};
+}
+
+// ---- 32-bit integers ----
+
+ORBS_INLINE I32x4 operator+(I32x4 a, I32x4 b) { return {_mm_add_epi32(a.v, b.v)}; }
+ORBS_INLINE I32x4 operator-(I32x4 a, I32x4 b) { return {_mm_sub_epi32(a.v, b.v)}; }
+ORBS_INLINE I32x4 operator&(I32x4 a, I32x4 b) { return {_mm_and_si128(a.v, b.v)}; }
+ORBS_INLINE I32x4 operator|(I32x4 a, I32x4 b) { return {_mm_or_si128(a.v, b.v)}; }
+ORBS_INLINE I32x4 operator^(I32x4 a, I32x4 b) { return {_mm_xor_si128(a.v, b.v)}; }
+ORBS_INLINE I32x4 AndNot(I32x4 mask, I32x4 a) { return {_mm_andnot_si128(mask.v, a.v)}; }
+ORBS_INLINE I32x4 Greater(I32x4 a, I32x4 b) { return {_mm_cmpgt_epi32(a.v, b.v)}; }
+ORBS_INLINE I32x4 Equal(I32x4 a, I32x4 b) { return {_mm_cmpeq_epi32(a.v, b.v)}; }
+// Shift counts of 32 and more give 0, or the sign for the arithmetic shift.
+ORBS_INLINE I32x4 ShiftLeft(I32x4 a, int n) { return {_mm_slli_epi32(a.v, n)}; }
+ORBS_INLINE I32x4 ShiftRight(I32x4 a, int n) { return {_mm_srai_epi32(a.v, n)}; }
+ORBS_INLINE I32x4 ShiftRightLogical(I32x4 a, int n) { return {_mm_srli_epi32(a.v, n)}; }
+// The low 32 bits of the product.
+ORBS_INLINE I32x4 operator*(I32x4 a, I32x4 b) {
+#ifdef __SSE4_1__
+  return {_mm_mullo_epi32(a.v, b.v)};
+#else
+  const __m128i even = _mm_mul_epu32(a.v, b.v);
+  const __m128i odd = _mm_mul_epu32(_mm_srli_epi64(a.v, 32), _mm_srli_epi64(b.v, 32));
+  return {_mm_unpacklo_epi32(_mm_shuffle_epi32(even, _MM_SHUFFLE(3, 1, 2, 0)),
+                             _mm_shuffle_epi32(odd, _MM_SHUFFLE(3, 1, 2, 0)))};
+#endif
+}
+
+ORBS_INLINE F32x4 AsFloat(I32x4 a) { return {_mm_castsi128_ps(a.v)}; }
+ORBS_INLINE I32x4 AsInt(F32x4 a) { return {_mm_castps_si128(a.v)}; }
+
+// ---- 16-bit integers ----
+
+ORBS_INLINE I16x8 operator+(I16x8 a, I16x8 b) { return {_mm_add_epi16(a.v, b.v)}; }
+ORBS_INLINE I16x8 operator-(I16x8 a, I16x8 b) { return {_mm_sub_epi16(a.v, b.v)}; }
+ORBS_INLINE I16x8 operator&(I16x8 a, I16x8 b) { return {_mm_and_si128(a.v, b.v)}; }
+ORBS_INLINE I16x8 operator|(I16x8 a, I16x8 b) { return {_mm_or_si128(a.v, b.v)}; }
+ORBS_INLINE I16x8 operator^(I16x8 a, I16x8 b) { return {_mm_xor_si128(a.v, b.v)}; }
+ORBS_INLINE I16x8 AndNot(I16x8 mask, I16x8 a) { return {_mm_andnot_si128(mask.v, a.v)}; }
+ORBS_INLINE I16x8 MulLow(I16x8 a, I16x8 b) { return {_mm_mullo_epi16(a.v, b.v)}; }
+ORBS_INLINE I16x8 Min(I16x8 a, I16x8 b) { return {_mm_min_epi16(a.v, b.v)}; }
+ORBS_INLINE I16x8 Max(I16x8 a, I16x8 b) { return {_mm_max_epi16(a.v, b.v)}; }
+ORBS_INLINE I16x8 Greater(I16x8 a, I16x8 b) { return {_mm_cmpgt_epi16(a.v, b.v)}; }
+template <int n>
+ORBS_INLINE I16x8 ShiftLeft(I16x8 a) {
+  return {_mm_slli_epi16(a.v, n)};
+}
+template <int n>
+ORBS_INLINE I16x8 ShiftRight(I16x8 a) {
+  return {_mm_srai_epi16(a.v, n)};
+}
+template <int n>
+ORBS_INLINE I16x8 ShiftRightLogical(I16x8 a) {
+  return {_mm_srli_epi16(a.v, n)};
+}
+// Sums of the products of neighbouring lanes.
+ORBS_INLINE I32x4 MulAddPairs(I16x8 a, I16x8 b) { return {_mm_madd_epi16(a.v, b.v)}; }
+
+// ---- 8-bit integers; Greater compares signed ----
+
+ORBS_INLINE U8x16 operator+(U8x16 a, U8x16 b) { return {_mm_add_epi8(a.v, b.v)}; }
+ORBS_INLINE U8x16 operator-(U8x16 a, U8x16 b) { return {_mm_sub_epi8(a.v, b.v)}; }
+ORBS_INLINE U8x16 operator&(U8x16 a, U8x16 b) { return {_mm_and_si128(a.v, b.v)}; }
+ORBS_INLINE U8x16 operator|(U8x16 a, U8x16 b) { return {_mm_or_si128(a.v, b.v)}; }
+ORBS_INLINE U8x16 operator^(U8x16 a, U8x16 b) { return {_mm_xor_si128(a.v, b.v)}; }
+ORBS_INLINE U8x16 Min(U8x16 a, U8x16 b) { return {_mm_min_epu8(a.v, b.v)}; }
+ORBS_INLINE U8x16 Average(U8x16 a, U8x16 b) { return {_mm_avg_epu8(a.v, b.v)}; }
+ORBS_INLINE U8x16 Greater(U8x16 a, U8x16 b) { return {_mm_cmpgt_epi8(a.v, b.v)}; }
+ORBS_INLINE U8x16 HighNibbles(U8x16 a) { return {_mm_and_si128(_mm_srli_epi16(a.v, 4), _mm_set1_epi8(15))}; }
+
+// ---- Conversions ----
+
+ORBS_INLINE F32x4 ToFloat(I32x4 a) { return {_mm_cvtepi32_ps(a.v)}; }
+// By the processor's rounding mode, and toward zero. Out of range and NaN give -2^31.
+ORBS_INLINE I32x4 RoundToInt(F32x4 a) { return {_mm_cvtps_epi32(a.v)}; }
+ORBS_INLINE I32x4 TruncateToInt(F32x4 a) { return {_mm_cvttps_epi32(a.v)}; }
+
+// As many elements as the result has lanes, widened.
+ORBS_INLINE void LoadWiden(const Orb16s* p, I32x4* out) {
+  const __m128i x = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+#ifdef __SSE4_1__
+  *out = {_mm_cvtepi16_epi32(x)};
+#else
+  *out = {_mm_srai_epi32(_mm_unpacklo_epi16(x, x), 16)};
+#endif
+}
+ORBS_INLINE void LoadWiden(const Orb8s* p, I32x4* out) {
+  const __m128i x = _mm_loadu_si32(p);
+#ifdef __SSE4_1__
+  *out = {_mm_cvtepi8_epi32(x)};
+#else
+  const __m128i twice = _mm_unpacklo_epi8(x, x);
+  *out = {_mm_srai_epi32(_mm_unpacklo_epi16(twice, twice), 24)};
+#endif
+}
+ORBS_INLINE void LoadWiden(const Orb8u* p, I32x4* out) {
+  const __m128i x = _mm_loadu_si32(p);
+#ifdef __SSE4_1__
+  *out = {_mm_cvtepu8_epi32(x)};
+#else
+  const __m128i zero = _mm_setzero_si128();
+  *out = {_mm_unpacklo_epi16(_mm_unpacklo_epi8(x, zero), zero)};
+#endif
+}
+ORBS_INLINE void LoadWiden(const Orb32s* p, F64x2* out) {
+  *out = {_mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};
+}
+ORBS_INLINE void LoadWiden(const Orb32f* p, F64x2* out) {
+  *out = {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))))};
+}
+ORBS_INLINE void LoadWiden(const Orb16s* p, F64x2* out) {
+  const __m128i x = _mm_loadu_si32(p);
+  *out = {_mm_cvtepi32_pd(_mm_srai_epi32(_mm_unpacklo_epi16(x, x), 16))};
+}
+
+// As many elements as the source has lanes, narrowed.
+ORBS_INLINE void StoreNarrow(Orb32f* p, F64x2 a) {
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_castps_si128(_mm_cvtpd_ps(a.v)));
+}
+ORBS_INLINE void StoreRounded(Orb32s* p, F64x2 a) {
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_cvtpd_epi32(a.v));
+}
+ORBS_INLINE void StoreTruncated(Orb32s* p, F64x2 a) {
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_cvttpd_epi32(a.v));
+}
+
+// Two vectors narrowed to one with saturation, in order.
+ORBS_INLINE I16x8 Pack(I32x4 a, I32x4 b) { return {_mm_packs_epi32(a.v, b.v)}; }
+ORBS_INLINE U8x16 Pack(I16x8 a, I16x8 b) { return {_mm_packus_epi16(a.v, b.v)}; }
+ORBS_INLINE void StorePacked(Orb16s* p, I32x4 a, I32x4 b) { Pack(a, b).Store(p); }
+
+// The zero-extended halves of a 16-bit vector and back. "In lanes": a pair that fits together, without the
+// permutations that the order of elements costs on 256 bits.
+ORBS_INLINE void WidenInLanes(I16x8 a, I32x4* low, I32x4* high) {
+  const __m128i zero = _mm_setzero_si128();
+  *low = {_mm_unpacklo_epi16(a.v, zero)};
+  *high = {_mm_unpackhi_epi16(a.v, zero)};
+}
+ORBS_INLINE I16x8 PackInLanes(I32x4 a, I32x4 b) { return Pack(a, b); }
+
+#ifdef __SSSE3__
+// table[index] for 16 bytes of table and indices 0 to 15.
+ORBS_INLINE U8x16 LookUp(const Orb8u (&table)[16], U8x16 index) {
+  return {_mm_shuffle_epi8(U8x16::Load(table).v, index.v)};
+}
+// a where the signed byte of b is above 0, -a below, 0 at 0.
+ORBS_INLINE U8x16 ApplySign(U8x16 a, U8x16 b) { return {_mm_sign_epi8(a.v, b.v)}; }
+// Byte by byte: a0 b0 + a1 b1 as 16 bits, in the order of the elements; a unsigned, b signed.
+ORBS_INLINE void MulAddBytes(U8x16 a0, U8x16 b0, U8x16 a1, U8x16 b1, I16x8* low, I16x8* high) {
+  *low = {_mm_maddubs_epi16(_mm_unpacklo_epi8(a0.v, a1.v), _mm_unpacklo_epi8(b0.v, b1.v))};
+  *high = {_mm_maddubs_epi16(_mm_unpackhi_epi8(a0.v, a1.v), _mm_unpackhi_epi8(b0.v, b1.v))};
+}
+// The order in which a vector must be loaded so that MulAddBytes delivers in order: as it is, on 128 bits.
+ORBS_INLINE U8x16 OrderForMulAddBytes(U8x16 a) { return a; }
+#endif
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif

@@ -1,0 +1,13 @@
+/**
+ * @file orbs90lgc.h
+ * @brief orbs90lgc: signal-processing primitives for x86. Include this; it brings every family.
+ */
+#ifndef ORBS90LGC_H
+#define ORBS90LGC_H
+
+#include "orbs90lgc/companding.h"
+#include "orbs90lgc/frame.h"
+#include "orbs90lgc/status.h"
+#include "orbs90lgc/types.h"
+
+#endif
