@@ -154,7 +154,7 @@ inline void ConvertALawToMuLaw(const Orb8u* src, Orb8u* dst, Orb32s len) {
         const U8 code = U8::Load(s);
         const U8 interval = (code ^ U8::All(0x55)) & U8::All(0x7F);
         const U8 lead =
-            Min(interval + U8::All(1), U8::All(8)) + CountAtOrAbove<25, 27, 29, 31, 45, 47, 63, 79>(interval);
+            Min(interval + U8::All(1), U8::All(8)) + CountAtOrAbove<25, 27, 29, 31, 45, 47, 63, 80>(interval);
         ((code & U8::All(0x80)) | (U8::All(0x7F) ^ (interval + lead))).Store(d);
       },
       dst, src);
@@ -167,7 +167,7 @@ inline void ConvertMuLawToALaw(const Orb8u* src, Orb8u* dst, Orb32s len) {
         const U8 code = U8::Load(s);
         const U8 interval = (code ^ U8::All(0x7F)) & U8::All(0x7F);
         const U8 lead = Min(Average(interval, U8::All(0)), U8::All(8)) +
-                        CountAtOrAbove<33, 34, 35, 36, 48, 49, 64, 80>(interval);
+                        CountAtOrAbove<33, 34, 35, 36, 48, 49, 64, 81>(interval);
         ((code & U8::All(0x80)) | (U8::All(0x55) ^ (interval - lead))).Store(d);
       },
       dst, src);

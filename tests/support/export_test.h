@@ -1,0 +1,21 @@
+// The base of all tests of exports: pins the variant before each test.
+#ifndef ORBS_TESTS_SUPPORT_EXPORT_TEST_H
+#define ORBS_TESTS_SUPPORT_EXPORT_TEST_H
+
+#include "frame/pin.h"
+#include "orbs90lgc.h"
+#include "support/variants.h"
+
+namespace orbs::test {
+
+class ExportTest : public testing::TestWithParam<Variant> {
+ protected:
+  void SetUp() override {
+    if (!CanRun(GetParam())) GTEST_SKIP() << "this processor cannot run " << VariantName(GetParam());
+    orbsPinVariant(static_cast<int>(GetParam()));
+  }
+};
+
+}  // namespace orbs::test
+
+#endif

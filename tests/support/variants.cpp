@@ -1,0 +1,31 @@
+#include "support/variants.h"
+
+namespace orbs::test {
+
+const char* VariantName(Variant variant) {
+  constexpr const char* kNames[kVariantCount] = {"px", "w7", "v8", "s8", "p8", "g9", "h9"};
+  return kNames[static_cast<int>(variant)];
+}
+
+bool CanRun(Variant variant) {
+  switch (variant) {
+    case Variant::px:
+      return true;
+    case Variant::w7:
+      return __builtin_cpu_supports("sse2");
+    case Variant::v8:
+      return __builtin_cpu_supports("ssse3");
+    case Variant::s8:
+      return __builtin_cpu_supports("ssse3") && __builtin_cpu_supports("movbe");
+    case Variant::p8:
+      return __builtin_cpu_supports("sse4.1");
+    case Variant::g9:
+      return __builtin_cpu_supports("avx");
+    case Variant::h9:
+      return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma") &&
+             __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2");
+  }
+  return false;
+}
+
+}  // namespace orbs::test
