@@ -2,6 +2,16 @@
 
 set(ORBS_VARIANT_SOURCES
     frame/version.cpp
+    frame/toolkit/complex.cpp
+    frame/toolkit/convert.cpp
+    frame/toolkit/convert_scaled.cpp
+    frame/toolkit/copy.cpp
+    frame/toolkit/divide.cpp
+    frame/toolkit/elementary.cpp
+    frame/toolkit/fill.cpp
+    frame/toolkit/flip.cpp
+    frame/toolkit/integer.cpp
+    frame/toolkit/real.cpp
     gen/companding.cpp)
 
 # Compiled once: what lies below the variants, and what stands in front of them.

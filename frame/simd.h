@@ -39,11 +39,27 @@ using I32 = I32x4;
 using I16 = I16x16;
 using U8 = U8x32;
 using N32 = I32x8;
+using Sum64 = Sum64x4;
 #else
 using I16 = I16x8;
 using U8 = U8x16;
 using N32 = I32x4;
+using Sum64 = Sum64x2;
 #endif
+
+template <class Lane>
+struct VectorFor;
+template <>
+struct VectorFor<Orb32f> {
+  using Type = F32;
+};
+template <>
+struct VectorFor<Orb64f> {
+  using Type = F64;
+};
+// The native vector of a floating-point type.
+template <class Lane>
+using VectorOf = typename VectorFor<Lane>::Type;
 
 // Complex product of interleaved pairs: (a.re b.re - a.im b.im, a.re b.im + a.im b.re).
 template <class V>
@@ -57,12 +73,14 @@ ORBS_INLINE V MulConjugate(V a, V b) {
   return MulSubAdd(DupEven(b), a, DupOdd(b) * SwapPairs(a));
 }
 
-// To nearest, ties away from zero; out of range and NaN give -2^31. See RoundHalfAwayToInt in scaling.h.
-ORBS_INLINE I32 RoundHalfAwayToInt(F32 y) {
-  const I32 whole = TruncateToInt(y);
-  const F32 fraction = y - ToFloat(whole);
-  return whole - AsInt(LessEqual(F32::All(0.5f), fraction)) + AsInt(LessEqual(fraction, F32::All(-0.5f)));
+// What truncation turns into rounding to nearest with ties away from zero: y plus the number just below 0.5,
+// with the sign of y. 0.5 itself would carry 0.49999997 to 1; its neighbour does not, and a tie still reaches
+// the next integer when the sum is rounded.
+ORBS_INLINE F32 AwayFromZeroByHalf(F32 y) { return y + ((y & F32::All(-0.0f)) | F32::All(0.49999997f)); }
+ORBS_INLINE F64 AwayFromZeroByHalf(F64 y) {
+  return y + ((y & F64::All(-0.0)) | F64::All(0.49999999999999994));
 }
+ORBS_INLINE I32 RoundHalfAwayToInt(F32 y) { return TruncateToInt(AwayFromZeroByHalf(y)); }
 
 // One I16 from the I32 that get(offset) gives for each offset, with saturation.
 template <class Get>

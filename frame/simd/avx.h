@@ -119,6 +119,7 @@ ORBS_INLINE F32x8 ToFloat(I32x8 a) { return {_mm256_cvtepi32_ps(a.v)}; }
 ORBS_INLINE I32x8 RoundToInt(F32x8 a) { return {_mm256_cvtps_epi32(a.v)}; }
 ORBS_INLINE I32x8 TruncateToInt(F32x8 a) { return {_mm256_cvttps_epi32(a.v)}; }
 
+ORBS_INLINE void LoadWiden(const Orb32s* p, I32x8* out) { *out = I32x8::Load(p); }
 ORBS_INLINE void LoadWiden(const Orb16s* p, I32x8* out) { *out = {_mm256_cvtepi16_epi32(I16x8::Load(p).v)}; }
 ORBS_INLINE void LoadWiden(const Orb8s* p, I32x8* out) {
   *out = {_mm256_cvtepi8_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};
@@ -211,6 +212,26 @@ ORBS_INLINE void WidenInLanes(I16x16 a, I32x8* low, I32x8* high) {
   *high = {_mm256_unpackhi_epi16(a.v, zero)};
 }
 ORBS_INLINE I16x16 PackInLanes(I32x8 a, I32x8 b) { return {_mm256_packs_epi32(a.v, b.v)}; }
+ORBS_INLINE void StoreInterleaved(Orb16s* p, I16x16 even, I16x16 odd) {
+  const __m256i low = _mm256_unpacklo_epi16(even.v, odd.v);
+  const __m256i high = _mm256_unpackhi_epi16(even.v, odd.v);
+  I16x16{_mm256_permute2x128_si256(low, high, 0x20)}.Store(p);
+  I16x16{_mm256_permute2x128_si256(low, high, 0x31)}.Store(p + 16);
+}
+
+struct Sum64x4 {
+  __m256i v;
+  static ORBS_INLINE Sum64x4 Zero() { return {_mm256_setzero_si256()}; }
+};
+ORBS_INLINE Sum64x4 AddWidened(Sum64x4 sum, I32x8 a) {
+  const __m256i sign = _mm256_srai_epi32(a.v, 31);
+  const __m256i both = _mm256_add_epi64(_mm256_unpacklo_epi32(a.v, sign), _mm256_unpackhi_epi32(a.v, sign));
+  return {_mm256_add_epi64(sum.v, both)};
+}
+ORBS_INLINE Orb64s Total(Sum64x4 sum) {
+  return Total(Sum64x2{_mm_add_epi64(_mm256_castsi256_si128(sum.v), _mm256_extracti128_si256(sum.v, 1))});
+}
+
 ORBS_INLINE U8x32 LookUp(const Orb8u (&table)[16], U8x32 index) {
   return {_mm256_shuffle_epi8(_mm256_broadcastsi128_si256(U8x16::Load(table).v), index.v)};
 }

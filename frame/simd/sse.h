@@ -245,7 +245,9 @@ ORBS_INLINE F32x4 ToFloat(I32x4 a) { return {_mm_cvtepi32_ps(a.v)}; }
 ORBS_INLINE I32x4 RoundToInt(F32x4 a) { return {_mm_cvtps_epi32(a.v)}; }
 ORBS_INLINE I32x4 TruncateToInt(F32x4 a) { return {_mm_cvttps_epi32(a.v)}; }
 
-// As many elements as the result has lanes, widened.
+// As many elements as the result has lanes, widened (32 bits to 32 bits: loaded, for kernels that take any
+// source).
+ORBS_INLINE void LoadWiden(const Orb32s* p, I32x4* out) { *out = I32x4::Load(p); }
 ORBS_INLINE void LoadWiden(const Orb16s* p, I32x4* out) {
   const __m128i x = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
 #ifdef __SSE4_1__
@@ -307,6 +309,29 @@ ORBS_INLINE void WidenInLanes(I16x8 a, I32x4* low, I32x4* high) {
   *high = {_mm_unpackhi_epi16(a.v, zero)};
 }
 ORBS_INLINE I16x8 PackInLanes(I32x4 a, I32x4 b) { return Pack(a, b); }
+
+ORBS_INLINE void StoreInterleaved(Orb16s* p, I16x8 even, I16x8 odd) {
+  I16x8{_mm_unpacklo_epi16(even.v, odd.v)}.Store(p);
+  I16x8{_mm_unpackhi_epi16(even.v, odd.v)}.Store(p + 8);
+}
+
+// ---- Sums of 32-bit lanes in 64 bits ----
+
+struct Sum64x2 {
+  __m128i v;
+  static ORBS_INLINE Sum64x2 Zero() { return {_mm_setzero_si128()}; }
+};
+
+ORBS_INLINE Sum64x2 AddWidened(Sum64x2 sum, I32x4 a) {
+  const __m128i sign = _mm_srai_epi32(a.v, 31);
+  const __m128i both = _mm_add_epi64(_mm_unpacklo_epi32(a.v, sign), _mm_unpackhi_epi32(a.v, sign));
+  return {_mm_add_epi64(sum.v, both)};
+}
+ORBS_INLINE Orb64s Total(Sum64x2 sum) {
+  Orb64s parts[2];
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(parts), sum.v);
+  return parts[0] + parts[1];
+}
 
 #ifdef __SSSE3__
 // table[index] for 16 bytes of table and indices 0 to 15.
