@@ -18,6 +18,10 @@
 // Vector kernels exist in every variant but px.
 #define ORBS_VECTOR (ORBS_VARIANT_INDEX != 0)
 
+// In front of a loop over the parts of a butterfly or a tile, which must become straight code to live in
+// registers.
+#define ORBS_UNROLL _Pragma("GCC unroll 16")
+
 #define ORBS_INLINE inline __attribute__((always_inline))
 
 namespace orbs::ORBS_VARIANT {

@@ -80,9 +80,65 @@ ORBS_INLINE F64x4 SwapHalves(F64x4 a) { return {_mm256_permute2f128_pd(a.v, a.v,
 ORBS_INLINE F64x4 Reverse(F64x4 a) { return SwapPairs(SwapHalves(a)); }
 ORBS_INLINE F64x4 ReversePairs(F64x4 a) { return SwapHalves(a); }
 
+#ifdef __FMA__
+ORBS_INLINE F32x8 NegMulAdd(F32x8 a, F32x8 b, F32x8 c) { return {_mm256_fnmadd_ps(a.v, b.v, c.v)}; }
+ORBS_INLINE F64x4 NegMulAdd(F64x4 a, F64x4 b, F64x4 c) { return {_mm256_fnmadd_pd(a.v, b.v, c.v)}; }
+#else
+ORBS_INLINE F32x8 NegMulAdd(F32x8 a, F32x8 b, F32x8 c) { return c - a * b; }
+ORBS_INLINE F64x4 NegMulAdd(F64x4 a, F64x4 b, F64x4 c) { return c - a * b; }
+#endif
+
+ORBS_INLINE void TransposePairs(F32x8 (&rows)[4]) {
+  const __m256d a = _mm256_castps_pd(rows[0].v);
+  const __m256d b = _mm256_castps_pd(rows[1].v);
+  const __m256d c = _mm256_castps_pd(rows[2].v);
+  const __m256d d = _mm256_castps_pd(rows[3].v);
+  const __m256d ab0 = _mm256_unpacklo_pd(a, b);
+  const __m256d ab1 = _mm256_unpackhi_pd(a, b);
+  const __m256d cd0 = _mm256_unpacklo_pd(c, d);
+  const __m256d cd1 = _mm256_unpackhi_pd(c, d);
+  rows[0] = {_mm256_castpd_ps(_mm256_permute2f128_pd(ab0, cd0, 0x20))};
+  rows[1] = {_mm256_castpd_ps(_mm256_permute2f128_pd(ab1, cd1, 0x20))};
+  rows[2] = {_mm256_castpd_ps(_mm256_permute2f128_pd(ab0, cd0, 0x31))};
+  rows[3] = {_mm256_castpd_ps(_mm256_permute2f128_pd(ab1, cd1, 0x31))};
+}
+ORBS_INLINE void TransposePairs(F64x4 (&rows)[2]) {
+  const __m256d a = rows[0].v;
+  const __m256d b = rows[1].v;
+  rows[0] = {_mm256_permute2f128_pd(a, b, 0x20)};
+  rows[1] = {_mm256_permute2f128_pd(a, b, 0x31)};
+}
+
+ORBS_INLINE void LoadPairs(const Orb32f* re, const Orb32f* im, F32x8* out) {
+  const __m128 r = _mm_loadu_ps(re);
+  const __m128 i = _mm_loadu_ps(im);
+  *out = {_mm256_set_m128(_mm_unpackhi_ps(r, i), _mm_unpacklo_ps(r, i))};
+}
+ORBS_INLINE void LoadPairs(const Orb64f* re, const Orb64f* im, F64x4* out) {
+  const __m128d r = _mm_loadu_pd(re);
+  const __m128d i = _mm_loadu_pd(im);
+  *out = {_mm256_set_m128d(_mm_unpackhi_pd(r, i), _mm_unpacklo_pd(r, i))};
+}
+ORBS_INLINE void StorePairs(Orb32f* re, Orb32f* im, F32x8 a) {
+  const __m128 low = _mm256_castps256_ps128(a.v);
+  const __m128 high = _mm256_extractf128_ps(a.v, 1);
+  _mm_storeu_ps(re, _mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)));
+  _mm_storeu_ps(im, _mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1)));
+}
+ORBS_INLINE void StorePairs(Orb64f* re, Orb64f* im, F64x4 a) {
+  const __m128d low = _mm256_castpd256_pd128(a.v);
+  const __m128d high = _mm256_extractf128_pd(a.v, 1);
+  _mm_storeu_pd(re, _mm_unpacklo_pd(low, high));
+  _mm_storeu_pd(im, _mm_unpackhi_pd(low, high));
+}
+
 ORBS_INLINE F32x8 OddSigns(F32x8*) {
   return {_mm256_castpd_ps(_mm256_castsi256_pd(_mm256_set1_epi64x(INT64_MIN)))};
 }
+ORBS_INLINE F32x8 EvenSigns(F32x8*) {
+  return {_mm256_castsi256_ps(_mm256_set1_epi64x(static_cast<long long>(0x80000000u)))};
+}
+ORBS_INLINE F64x4 EvenSigns(F64x4*) { return {_mm256_set_pd(0.0, -0.0, 0.0, -0.0)}; }
 ORBS_INLINE F64x4 OddSigns(F64x4*) { return {_mm256_set_pd(-0.0, 0.0, -0.0, 0.0)}; }
 
 // ---- 32-bit integers ----

@@ -106,6 +106,15 @@ ORBS_INLINE F32x4 MulAdd(F32x4 a, F32x4 b, F32x4 c) { return a * b + c; }
 ORBS_INLINE F64x2 MulAdd(F64x2 a, F64x2 b, F64x2 c) { return a * b + c; }
 #endif
 
+// c - a b.
+#ifdef __FMA__
+ORBS_INLINE F32x4 NegMulAdd(F32x4 a, F32x4 b, F32x4 c) { return {_mm_fnmadd_ps(a.v, b.v, c.v)}; }
+ORBS_INLINE F64x2 NegMulAdd(F64x2 a, F64x2 b, F64x2 c) { return {_mm_fnmadd_pd(a.v, b.v, c.v)}; }
+#else
+ORBS_INLINE F32x4 NegMulAdd(F32x4 a, F32x4 b, F32x4 c) { return c - a * b; }
+ORBS_INLINE F64x2 NegMulAdd(F64x2 a, F64x2 b, F64x2 c) { return c - a * b; }
+#endif
+
 // Even lanes over odd ones, odd over even, pairs swapped, the order of lanes or of pairs reversed.
 #ifdef __SSE3__
 ORBS_INLINE F32x4 DupEven(F32x4 a) { return {_mm_moveldup_ps(a.v)}; }
@@ -128,6 +137,32 @@ ORBS_INLINE F32x4 OddSigns(F32x4*) { return {_mm_castsi128_ps(_mm_set_epi32(INT3
 ORBS_INLINE F64x2 OddSigns(F64x2*) { return {_mm_set_pd(-0.0, 0.0)}; }
 ORBS_INLINE F32x4 EvenSigns(F32x4*) { return {_mm_castsi128_ps(_mm_set_epi32(0, INT32_MIN, 0, INT32_MIN))}; }
 ORBS_INLINE F64x2 EvenSigns(F64x2*) { return {_mm_set_pd(0.0, -0.0)}; }
+
+// Square transposition of pairs: lane pair c of vector r changes places with lane pair r of vector c.
+ORBS_INLINE void TransposePairs(F32x4 (&rows)[2]) {
+  const __m128d a = _mm_castps_pd(rows[0].v);
+  const __m128d b = _mm_castps_pd(rows[1].v);
+  rows[0] = {_mm_castpd_ps(_mm_unpacklo_pd(a, b))};
+  rows[1] = {_mm_castpd_ps(_mm_unpackhi_pd(a, b))};
+}
+ORBS_INLINE void TransposePairs(F64x2 (&)[1]) {}
+
+// Separate parts to interleaved pairs and back, one vector of pairs.
+ORBS_INLINE void LoadPairs(const Orb32f* re, const Orb32f* im, F32x4* out) {
+  const __m128 r = _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(re)));
+  const __m128 i = _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(im)));
+  *out = {_mm_unpacklo_ps(r, i)};
+}
+ORBS_INLINE void LoadPairs(const Orb64f* re, const Orb64f* im, F64x2* out) { *out = {_mm_set_pd(*im, *re)}; }
+ORBS_INLINE void StorePairs(Orb32f* re, Orb32f* im, F32x4 a) {
+  const __m128i parts = _mm_castps_si128(_mm_shuffle_ps(a.v, a.v, _MM_SHUFFLE(3, 1, 2, 0)));
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(re), parts);
+  _mm_storeh_pd(reinterpret_cast<double*>(im), _mm_castsi128_pd(parts));
+}
+ORBS_INLINE void StorePairs(Orb64f* re, Orb64f* im, F64x2 a) {
+  _mm_storel_pd(re, a.v);
+  _mm_storeh_pd(im, a.v);
+}
 
 template <class F>
 ORBS_INLINE F Conjugate(F a) {
