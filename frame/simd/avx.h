@@ -337,13 +337,13 @@ ORBS_INLINE I32x8 ShiftRightLogical(I32x8 a, int n) {
   return {ShiftRightLogical(a.low, n), ShiftRightLogical(a.high, n)};
 }
 
-ORBS_INLINE __m256i Join(I32x8 a) { return _mm256_set_m128i(a.high.v, a.low.v); }
-ORBS_INLINE I32x8 Split(__m256i a) { return {{_mm256_castsi256_si128(a)}, {_mm256_extractf128_si256(a, 1)}}; }
-ORBS_INLINE F32x8 AsFloat(I32x8 a) { return {_mm256_castsi256_ps(Join(a))}; }
-ORBS_INLINE I32x8 AsInt(F32x8 a) { return Split(_mm256_castps_si256(a.v)); }
-ORBS_INLINE F32x8 ToFloat(I32x8 a) { return {_mm256_cvtepi32_ps(Join(a))}; }
-ORBS_INLINE I32x8 RoundToInt(F32x8 a) { return Split(_mm256_cvtps_epi32(a.v)); }
-ORBS_INLINE I32x8 TruncateToInt(F32x8 a) { return Split(_mm256_cvttps_epi32(a.v)); }
+ORBS_INLINE __m256i JoinHalves(I32x8 a) { return _mm256_set_m128i(a.high.v, a.low.v); }
+ORBS_INLINE I32x8 SplitHalves(__m256i a) { return {{_mm256_castsi256_si128(a)}, {_mm256_extractf128_si256(a, 1)}}; }
+ORBS_INLINE F32x8 AsFloat(I32x8 a) { return {_mm256_castsi256_ps(JoinHalves(a))}; }
+ORBS_INLINE I32x8 AsInt(F32x8 a) { return SplitHalves(_mm256_castps_si256(a.v)); }
+ORBS_INLINE F32x8 ToFloat(I32x8 a) { return {_mm256_cvtepi32_ps(JoinHalves(a))}; }
+ORBS_INLINE I32x8 RoundToInt(F32x8 a) { return SplitHalves(_mm256_cvtps_epi32(a.v)); }
+ORBS_INLINE I32x8 TruncateToInt(F32x8 a) { return SplitHalves(_mm256_cvttps_epi32(a.v)); }
 
 template <class T>
 ORBS_INLINE void LoadWiden(const T* p, I32x8* out) {
