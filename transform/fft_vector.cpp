@@ -1,4 +1,4 @@
-// The complex transforms of the vector variants up to the one-pass ceiling, and their tables.
+// The complex transforms of the vector variants and their tables.
 #include "transform/fft_vector.h"
 
 #include "frame/variant.h"
@@ -7,8 +7,11 @@
 
 #include <cstdint>
 
+#include "frame/record.h"
 #include "transform/fft_vector_codelets.h"
+#include "transform/fft_vector_large.h"
 #include "transform/fft_vector_steps.h"
+#include "transform/tuning.h"
 
 namespace orbs::ORBS_VARIANT {
 namespace {
@@ -54,7 +57,91 @@ void TransformInPlace(const PassSteps<T>& plan, const Orb32s* reversal, int orde
       }
     }
     FirstPassOfReversed<8, kForward>(data, n, scale);
-    RunPasses<kForward>(plan.steps, plan.count, data, n);
+    RunPasses<kForward>(plan.steps, plan.count, Interleaved<T>{data}, n);
+  }
+}
+
+template <bool kForward, template <class> class Data, class T>
+void TransformInOnePass(const FftPlan<T>& plan, int order, Data<const T> src, Data<T> dst, T scale, T* work) {
+  const PassSteps<T> passes(order, plan.tables.coreTw.In(&plan));
+  const Orb32s* reversal = plan.tables.bitRev.In(&plan);
+  T* middle = Middle(src, dst, work);
+  if (middle != nullptr) {
+    RunTransform<kForward>(passes, reversal, order, src, dst, middle, scale);
+  } else if constexpr (std::is_same_v<Data<T>, Interleaved<T>>) {
+    TransformInPlace<kForward>(passes, reversal, order, dst.pairs, scale);
+  }
+}
+
+// ---- Above the one-pass ceiling ----
+
+template <class T>
+constexpr int RowOrder(int order) {
+  return LargeRowOrder(order, Pick<T>(kFftTuning.onePassCeiling));
+}
+
+// The tables of all long passes, one behind the other in rising order of q.
+template <class T>
+int64_t AllLongTableReals(int order) {
+  int64_t reals = 0;
+  for (int row = RowOrder<T>(order); row < order; row += 3) reals += LongTableReals<T>(int64_t{1} << row);
+  return reals;
+}
+
+template <bool kForward, template <class> class Data, class T>
+void TransformLarge(const FftPlan<T>& plan, int order, Data<const T> src, Data<T> dst, T scale, T* work) {
+  const int rowOrder = RowOrder<T>(order);
+  const size_t n = size_t{1} << order;
+  const PassSteps<T> rows(rowOrder, plan.tables.coreTw.In(&plan));
+  LargeFirstPass<kForward>(src, dst, n, scale, work);
+  RunLongPasses<kForward>(dst, n, size_t{1} << rowOrder, rows, plan.tables.layerTw.In(&plan),
+                          AllLongTableReals<T>(order));
+}
+
+// ---- Tables ----
+
+// exp(-2 pi i index / circle) as the next pair.
+template <class T>
+ORBS_INLINE void PutTwiddle(SineTable<T> circle, Index index, T** w) {
+  *(*w)++ = circle.Cos(index);
+  *(*w)++ = -circle.Sin(index);
+}
+
+// The twiddles of a pass of this radix over the points k in vectors, in reading order.
+template <class T>
+void BuildReadingOrder(SineTable<T> circle, Index radix, Index points, T* w) {
+  for (Index k = 0; k < points; k += kPairs<T>) {
+    for (Index m = 1; m < radix; ++m) {
+      for (Index lane = 0; lane < kPairs<T>; ++lane) PutTwiddle(circle, m * (k + lane), &w);
+    }
+  }
+}
+
+template <class T>
+void BuildPassTwiddles(int order, SineTable<T> sine, T* coreTw) {
+  const PassSteps<T> passes(order, coreTw);
+  T* w = coreTw;
+  int done = passes.firstBits;
+  for (int i = 0; i < passes.count; ++i) {
+    const PassStep<T>& step = passes.steps[i];
+    done += step.radix == 4 ? 2 : 3;
+    BuildReadingOrder<T>(sine.Of(done), step.radix, static_cast<Index>(step.q), w);
+    w += 2 * static_cast<size_t>(step.radix - 1) * step.q;
+  }
+}
+
+template <class T>
+void BuildLongTables(int order, SineTable<T> sine, T* table) {
+  for (int row = RowOrder<T>(order); row < order; row += 3) {
+    const SineTable<T> circle = sine.Of(row + 3);
+    const Index q = Index{1} << row;
+    constexpr Index kFineStep = static_cast<Index>(kFine);
+    BuildReadingOrder<T>(circle, 8, kFineStep, table);
+    T* coarse = table + 2 * 7 * kFine;
+    for (Index k = 0; k < q; k += kFineStep) {
+      for (Index m = 1; m < 8; ++m) PutTwiddle(circle, m * k, &coarse);
+    }
+    table += LongTableReals<T>(q);
   }
 }
 
@@ -62,13 +149,11 @@ void TransformInPlace(const PassSteps<T>& plan, const Orb32s* reversal, int orde
 
 template <bool kForward, template <class> class Data, class T>
 void VectorTransform(const FftPlan<T>& plan, int order, Data<const T> src, Data<T> dst, T scale, void* work) {
-  const PassSteps<T> passes(order, plan.tables.coreTw.In(&plan));
-  const Orb32s* reversal = plan.tables.bitRev.In(&plan);
-  T* middle = Middle(src, dst, static_cast<T*>(work));
-  if (middle != nullptr) {
-    RunTransform<kForward>(passes, reversal, order, src, dst, middle, scale);
-  } else if constexpr (std::is_same_v<Data<T>, Interleaved<T>>) {
-    TransformInPlace<kForward>(passes, reversal, order, dst.pairs, scale);
+  T* space = static_cast<T*>(work);
+  if (order <= Pick<T>(kFftTuning.onePassCeiling)) {
+    TransformInOnePass<kForward>(plan, order, src, dst, scale, space);
+  } else {
+    TransformLarge<kForward>(plan, order, src, dst, scale, space);
   }
 }
 
@@ -86,38 +171,40 @@ void VectorCodelet(int order, Data<const T> src, Data<T> dst, T scale) {
 
 template <class T>
 void BuildVectorTables(int order, SineTable<T> sine, Orb32s* bitRev, T* coreTw) {
-  constexpr int kWidth = kPairs<T>;
-  constexpr int kWidthBits = kWidth == 4 ? 2 : kWidth == 2 ? 1 : 0;
-  const PassSteps<T> passes(order, coreTw);
-  const int entryBits = order - passes.firstBits - kWidthBits;
-  for (Orb32s i = 0; i < (1 << entryBits); ++i) bitRev[i] = ReverseBits(i, entryBits) << passes.firstBits;
-
-  for (int i = 0; i < passes.count; ++i) {
-    const PassStep<T>& step = passes.steps[i];
-    T* w = coreTw + (step.twiddles - coreTw);
-    const Index circle = Index{1} << order;
-    const Index stride = circle / (step.radix * static_cast<Index>(step.q));
-    for (Index k = 0; k < static_cast<Index>(step.q); k += kWidth) {
-      for (Index m = 1; m < step.radix; ++m) {
-        for (Index lane = 0; lane < kWidth; ++lane) {
-          const Index angle = m * (k + lane) * stride;
-          *w++ = sine.Cos(angle);
-          *w++ = -sine.Sin(angle);
-        }
-      }
-    }
-  }
+  constexpr int kWidthBits = kPairs<T> == 4 ? 2 : kPairs<T> == 2 ? 1 : 0;
+  constexpr int kFirstBits = 3;  // of every order that has tables
+  const int entryBits = order - kFirstBits - kWidthBits;
+  for (Orb32s i = 0; i < (1 << entryBits); ++i) bitRev[i] = ReverseBits(i, entryBits) << kFirstBits;
+  BuildPassTwiddles(order, sine, coreTw);
 }
 
-#define ORBS_INSTANTIATE_FOR(kForward, Data, T)                                                               \
-  template void VectorTransform<kForward, Data, T>(const FftPlan<T>&, int, Data<const T>, Data<T>, T, void*); \
+template <class T>
+void DescribeVectorLarge(int order, FftForm, FftLayout<T>* layout) {
+  const int64_t rowReals = int64_t{2} << RowOrder<T>(order);
+  layout->tables.coreTw = layout->plan.template Add<T>(rowReals, 64);
+  layout->tables.layerTw = layout->plan.template Add<T>(AllLongTableReals<T>(order), 64);
+  layout->workSize = kLargeWorkBytes<T>;
+}
+
+template <class T>
+void BuildVectorLarge(int order, SineTable<T> sine, const FftLayout<T>&, FftPlan<T>* plan, void*) {
+  const int rowOrder = RowOrder<T>(order);
+  BuildPassTwiddles(rowOrder, sine.Of(rowOrder), plan->tables.coreTw.In(plan));
+  BuildLongTables(order, sine, plan->tables.layerTw.In(plan));
+}
+
+#define ORBS_INSTANTIATE_FOR(kForward, Data, T)                                                       \
+  template void VectorTransform<kForward, Data, T>(const FftPlan<T>&, int, Data<const T>, Data<T>, T, \
+                                                   void*);                                            \
   template void VectorCodelet<kForward, Data, T>(int, Data<const T>, Data<T>, T);
-#define ORBS_INSTANTIATE(T)                   \
-  ORBS_INSTANTIATE_FOR(true, Interleaved, T)  \
-  ORBS_INSTANTIATE_FOR(false, Interleaved, T) \
-  ORBS_INSTANTIATE_FOR(true, Split, T)        \
-  ORBS_INSTANTIATE_FOR(false, Split, T)       \
-  template void BuildVectorTables<T>(int, SineTable<T>, Orb32s*, T*);
+#define ORBS_INSTANTIATE(T)                                           \
+  ORBS_INSTANTIATE_FOR(true, Interleaved, T)                          \
+  ORBS_INSTANTIATE_FOR(false, Interleaved, T)                         \
+  ORBS_INSTANTIATE_FOR(true, Split, T)                                \
+  ORBS_INSTANTIATE_FOR(false, Split, T)                               \
+  template void BuildVectorTables<T>(int, SineTable<T>, Orb32s*, T*); \
+  template void DescribeVectorLarge<T>(int, FftForm, FftLayout<T>*);  \
+  template void BuildVectorLarge<T>(int, SineTable<T>, const FftLayout<T>&, FftPlan<T>*, void*);
 ORBS_INSTANTIATE(Orb32f)
 ORBS_INSTANTIATE(Orb64f)
 #undef ORBS_INSTANTIATE

@@ -49,7 +49,8 @@ struct VectorCodeletTables {
   constexpr VectorCodeletTables() {
     for (int i = 0; i < kEntries; ++i) {
       int reversed = 0;
-      for (int bit = 1, value = i; bit < kEntries; bit <<= 1, value >>= 1) reversed = reversed << 1 | (value & 1);
+      for (int bit = 1, value = i; bit < kEntries; bit <<= 1, value >>= 1)
+        reversed = reversed << 1 | (value & 1);
       reversal[i] = reversed * kFirstRadix;
     }
     T* w = twiddles;

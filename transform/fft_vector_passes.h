@@ -188,10 +188,10 @@ ORBS_INLINE void RowPass(Source src, Result dst, size_t q, const T* twiddles) {
 }
 
 // All rows of n points, in place.
-template <int kRadix, bool kForward, class T>
-ORBS_INLINE void Pass(T* data, size_t n, size_t q, const T* twiddles) {
+template <int kRadix, bool kForward, class Data, class T>
+ORBS_INLINE void Pass(Data data, size_t n, size_t q, const T* twiddles) {
   for (size_t row = 0; row < n; row += kRadix * q) {
-    const Interleaved<T> points = {data + 2 * row};
+    const Data points = data.At(static_cast<Index>(row));
     RowPass<kRadix, kForward>(points, points, q, twiddles);
   }
 }

@@ -40,8 +40,8 @@ struct PassSteps {
 };
 
 // A pass over all rows of n points in place.
-template <bool kForward, class T>
-ORBS_INLINE void RunPass(const PassStep<T>& step, T* data, size_t n) {
+template <bool kForward, class Data, class T>
+ORBS_INLINE void RunPass(const PassStep<T>& step, Data data, size_t n) {
   if (step.radix == 4) {
     Pass<4, kForward>(data, n, step.q, step.twiddles);
   } else {
@@ -51,8 +51,8 @@ ORBS_INLINE void RunPass(const PassStep<T>& step, T* data, size_t n) {
 
 // The first `count` passes over n points in place, depth first: a block that fits the first-level cache goes
 // through all its passes before the next one is touched, and so on upward.
-template <bool kForward, class T>
-void RunPasses(const PassStep<T>* steps, int count, T* data, size_t n) {
+template <bool kForward, class Data, class T>
+void RunPasses(const PassStep<T>* steps, int count, Data data, size_t n) {
   constexpr size_t kBlockBytes = 32 * 1024;
   if (n * 2 * sizeof(T) <= kBlockBytes || count == 1) {
     for (int i = 0; i < count; ++i) RunPass<kForward>(steps[i], data, n);
@@ -60,7 +60,7 @@ void RunPasses(const PassStep<T>* steps, int count, T* data, size_t n) {
   }
   const PassStep<T>& last = steps[count - 1];
   for (size_t block = 0; block < n; block += last.q) {
-    RunPasses<kForward>(steps, count - 1, data + 2 * block, last.q);
+    RunPasses<kForward>(steps, count - 1, data.At(static_cast<Index>(block)), last.q);
   }
   RunPass<kForward>(last, data, n);
 }
@@ -75,13 +75,13 @@ ORBS_INLINE void RunTransform(const PassSteps<T>& plan, const Orb32s* reversal, 
   } else {
     FirstPass<8, kForward>(src, middle, n, reversal, scale);
   }
+  const Interleaved<T> from = {middle};
   const PassStep<T>& last = plan.steps[plan.count - 1];
   if (plan.count > 1) {
     for (size_t block = 0; block < n; block += last.q) {
-      RunPasses<kForward>(plan.steps, plan.count - 1, middle + 2 * block, last.q);
+      RunPasses<kForward>(plan.steps, plan.count - 1, from.At(static_cast<Index>(block)), last.q);
     }
   }
-  const Interleaved<T> from = {middle};
   if (last.radix == 4) {
     RowPass<4, kForward>(from, dst, last.q, last.twiddles);
   } else {

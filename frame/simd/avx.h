@@ -109,6 +109,16 @@ ORBS_INLINE void TransposePairs(F64x4 (&rows)[2]) {
   rows[1] = {_mm256_permute2f128_pd(a, b, 0x31)};
 }
 
+ORBS_INLINE void LoadPairToAll(const Orb32f* pair, F32x8* out) {
+  F32x4 both;
+  LoadPairToAll(pair, &both);
+  *out = {_mm256_set_m128(both.v, both.v)};
+}
+ORBS_INLINE void LoadPairToAll(const Orb64f* pair, F64x4* out) {
+  const F64x2 p = F64x2::Load(pair);
+  *out = {_mm256_set_m128d(p.v, p.v)};
+}
+
 ORBS_INLINE void LoadPairs(const Orb32f* re, const Orb32f* im, F32x8* out) {
   const __m128 r = _mm_loadu_ps(re);
   const __m128 i = _mm_loadu_ps(im);

@@ -147,6 +147,13 @@ ORBS_INLINE void TransposePairs(F32x4 (&rows)[2]) {
 }
 ORBS_INLINE void TransposePairs(F64x2 (&)[1]) {}
 
+// One pair in all pairs of a vector.
+ORBS_INLINE void LoadPairToAll(const Orb32f* pair, F32x4* out) {
+  const __m128i p = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(pair));
+  *out = {_mm_castsi128_ps(_mm_unpacklo_epi64(p, p))};
+}
+ORBS_INLINE void LoadPairToAll(const Orb64f* pair, F64x2* out) { *out = F64x2::Load(pair); }
+
 // Separate parts to interleaved pairs and back, one vector of pairs.
 ORBS_INLINE void LoadPairs(const Orb32f* re, const Orb32f* im, F32x4* out) {
   const __m128 r = _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(re)));

@@ -1,0 +1,151 @@
+// Vector transforms above the one-pass ceiling: in place on the result, with little work space and small
+// tables.
+//
+//   1. The first pass takes tiles of 32 by 32 points and puts each down where its reversed number says, by
+//   way
+//      of the work buffer; in place, two tiles change places.
+//   2. Rows of 2^m points, m at most the one-pass ceiling, run their passes one after the other.
+//   3. Long passes of radix 8 over q = 2^m, 2^(m+3), ... points a block finish the transform. A table of
+//   their
+//      twiddles would be as large as the data, so it has two levels: the factor of k = kFine a + b is the
+//      product of coarse entry a and fine entry b. The arithmetic hides behind the memory.
+#ifndef ORBS_TRANSFORM_FFT_VECTOR_LARGE_H
+#define ORBS_TRANSFORM_FFT_VECTOR_LARGE_H
+
+#include "frame/record.h"
+#include "transform/fft_vector_steps.h"
+
+namespace orbs::ORBS_VARIANT {
+
+// The order of the rows: what is left when the long passes take three levels each.
+constexpr int LargeRowOrder(int order, int onePassCeiling) {
+  return order - (order - onePassCeiling + 2) / 3 * 3;
+}
+
+// Entries of the fine level: seven factors each, 14 KB of binary32, which stay in the first-level cache.
+inline constexpr size_t kFine = 256;
+
+// Reals in the table of a long pass: the fine level in reading order, then seven factors for each coarse
+// step.
+template <class T>
+constexpr int64_t LongTableReals(int64_t q) {
+  constexpr auto kFineStep = static_cast<int64_t>(kFine);
+  return RoundUp(2 * 7 * (kFineStep + q / kFineStep), 64 / static_cast<int64_t>(sizeof(T)));
+}
+
+// One row: 8 blocks of q points become one block, in place.
+template <bool kForward, class Data, class T>
+void LongRowPass(Data data, size_t q, const T* table) {
+  using V = VectorOf<T>;
+  const T* coarse = table + 2 * 7 * kFine;
+  for (size_t start = 0; start < q; start += kFine) {
+    V base[7];
+    ORBS_UNROLL for (int m = 0; m < 7; ++m) LoadPairToAll(coarse + 2 * m, &base[m]);
+    coarse += 2 * 7;
+    const T* fine = table;
+    for (size_t k = start; k < start + kFine; k += kPairs<T>) {
+      V x[8];
+      x[0] = LoadPoints(data, k);
+      ORBS_UNROLL for (int m = 1; m < 8; ++m) {
+        const V w = MulComplex(base[m - 1], V::Load(fine + (m - 1) * V::kLanes));
+        x[m] = Twiddle<kForward>(LoadPoints(data, k + kReversedDigit[8][m] * q), w);
+      }
+      fine += 7 * V::kLanes;
+      Butterfly<kForward>(x);
+      ORBS_UNROLL for (size_t m = 0; m < 8; ++m) StorePoints(data, k + m * q, x[m]);
+    }
+  }
+}
+
+// ---- The first pass by tiles ----
+
+inline constexpr int kTileBits = 5;
+inline constexpr size_t kTileSide = size_t{1} << kTileBits;
+inline constexpr size_t kTilePoints = kTileSide * kTileSide;
+
+// Two tiles, for the exchange in place.
+template <class T>
+inline constexpr int64_t kLargeWorkBytes = static_cast<int64_t>(2 * kTilePoints * 2 * sizeof(T));
+
+constexpr size_t ReverseTileBits(size_t value) {
+  return (value & 1) << 4 | (value & 2) << 2 | (value & 4) | (value & 8) >> 2 | (value & 16) >> 4;
+}
+
+// The tile with number `middle` (the index bits between the top and the bottom five): its groups of 8 points
+// through the butterfly into `tile`, reversed within the tile.
+template <bool kForward, class Data, class T>
+void ReadTile(Data src, size_t n, size_t middle, VectorOf<T> scale, T* tile) {
+  constexpr size_t kWidth = static_cast<size_t>(kPairs<T>);
+  for (size_t row = 0; row < kTileSide / 8; ++row) {
+    const size_t column = 8 * kReversedDigit[4][row];
+    for (size_t i = 0; i < kTileSide; i += kWidth) {
+      T* place = tile + 2 * (ReverseTileBits(i) * kTileSide + column);
+      FirstButterfly<8, kForward>(src, row * (n / kTileSide) + middle * kTileSide + i, n / 8, place,
+                                  kTilePoints / kWidth, scale);
+    }
+  }
+}
+
+template <class Data, class T>
+void WriteTile(Data dst, size_t n, size_t middle, const T* tile) {
+  for (size_t row = 0; row < kTileSide; ++row) {
+    const Interleaved<const T> from = {tile + 2 * row * kTileSide};
+    const Data to = dst.At(static_cast<Index>(row * (n / kTileSide) + middle * kTileSide));
+    for (size_t i = 0; i < kTileSide; i += kPairs<T>) StorePoints(to, i, LoadPoints(from, i));
+  }
+}
+
+template <class T>
+bool SameArray(Interleaved<const T> a, Interleaved<T> b) {
+  return a.pairs == b.pairs;
+}
+template <class T>
+bool SameArray(Split<const T> a, Split<T> b) {
+  return a.re == b.re;
+}
+
+template <bool kForward, template <class> class Data, class T>
+void LargeFirstPass(Data<const T> src, Data<T> dst, size_t n, T scale, T* work) {
+  const VectorOf<T> factor = VectorOf<T>::All(scale);
+  const size_t tiles = n / kTilePoints;
+  const bool inPlace = SameArray(src, dst);
+  size_t reversed = 0;
+  for (size_t middle = 0; middle < tiles; ++middle) {
+    if (!inPlace || middle <= reversed) {
+      T* other = work + 2 * kTilePoints;
+      ReadTile<kForward>(src, n, middle, factor, work);
+      if (inPlace && middle != reversed) {
+        ReadTile<kForward>(src, n, reversed, factor, other);
+        WriteTile(dst, n, middle, other);
+      }
+      WriteTile(dst, n, reversed, work);
+    }
+    // The next number in reversed order: a carry that runs downward.
+    size_t bit = tiles >> 1;
+    for (; (reversed & bit) != 0; bit >>= 1) reversed ^= bit;
+    reversed |= bit;
+  }
+}
+
+// ---- The whole ----
+
+template <bool kForward, class Data, class T>
+void RunLongPasses(Data data, size_t n, size_t rowPoints, const PassSteps<T>& rows, const T* longTables,
+                   int64_t tableReals) {
+  if (n == rowPoints) {
+    RunPasses<kForward>(rows.steps, rows.count, data, n);
+    return;
+  }
+  // Depth first: an eighth at a time until it is a row. The tables stand in the order of q.
+  const size_t q = n / 8;
+  const int64_t ownReals = LongTableReals<T>(static_cast<int64_t>(q));
+  for (size_t block = 0; block < n; block += q) {
+    RunLongPasses<kForward>(data.At(static_cast<Index>(block)), q, rowPoints, rows, longTables,
+                            tableReals - ownReals);
+  }
+  LongRowPass<kForward>(data, q, longTables + tableReals - ownReals);
+}
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif
