@@ -12,7 +12,13 @@ set(ORBS_VARIANT_SOURCES
     frame/toolkit/flip.cpp
     frame/toolkit/integer.cpp
     frame/toolkit/real.cpp
-    gen/companding.cpp)
+    gen/companding.cpp
+    transform/fft_codelets.cpp
+    transform/fft_complex.cpp
+    transform/fft_init.cpp
+    transform/fft_layout.cpp
+    transform/fft_real.cpp
+    transform/fft_sine.cpp)
 
 # Compiled once: what lies below the variants, and what stands in front of them.
 set(ORBS_COMMON_SOURCES frame/cache.cpp frame/cpuid.cpp frame/memory.cpp frame/processor.cpp)

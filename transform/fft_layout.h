@@ -11,8 +11,8 @@ namespace orbs::ORBS_VARIANT {
 
 template <class T>
 struct FftLayout {
-  BlockLayout plan{sizeof(FftPlan<T>), 64};
-  BlockLayout init{0, 64};  // begins with the sine table
+  BlockLayout plan{sizeof(FftPlan<T>), 8};  // the record alone, until it has tables
+  BlockLayout init{0, 64};                  // begins with the sine table
   int64_t workSize = 0;
   FftTables<T> tables{};  // in the plan's block
   // In the init buffer, by level: what the step table is made from.

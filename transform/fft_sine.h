@@ -2,6 +2,8 @@
 #ifndef ORBS_TRANSFORM_FFT_SINE_H
 #define ORBS_TRANSFORM_FFT_SINE_H
 
+#include <type_traits>
+
 #include "frame/variant.h"
 #include "transform/fft_data.h"
 
@@ -9,10 +11,15 @@ namespace orbs::ORBS_VARIANT {
 
 // sin(2 pi i / 1024) for i = 0 to 256, correctly rounded.
 inline constexpr int kSinQuarterOrder = 10;
-extern const Orb32f SinQuarter_32f[257];
-extern const Orb64f SinQuarter_64f[257];
+template <class T>
+struct SinQuarter {
+  T sines[257];
+};
+extern const SinQuarter<Orb32f> SinQuarter_32f;
+extern const SinQuarter<Orb64f> SinQuarter_64f;
 
-// sin(2 pi k / 2^order) for k = 0 to 2^order / 4, for orders above that of SinQuarter.
+// sin(2 pi k / 2^order) for k = 0 to 2^order / 4, for orders above that of SinQuarter. Correctly rounded but
+// for a rare value that lies all but in the middle of two.
 template <class T>
 void BuildSineTable(int order, T* quarter);
 
@@ -34,6 +41,18 @@ struct SineTable {
   }
   ORBS_INLINE T Cos(Index k) const { return Sin(k + (Index{1} << (order - 2))); }
 };
+
+// The constant table for orders up to its own.
+template <class T>
+ORBS_INLINE SineTable<T> ConstantSines(int order) {
+  const T* quarter;
+  if constexpr (std::is_same_v<T, Orb32f>) {
+    quarter = SinQuarter_32f.sines;
+  } else {
+    quarter = SinQuarter_64f.sines;
+  }
+  return {quarter, order, Index{1} << (kSinQuarterOrder - order)};
+}
 
 }  // namespace orbs::ORBS_VARIANT
 

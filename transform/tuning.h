@@ -58,16 +58,16 @@ inline constexpr int kRealFineEntries = Pick<T>({1024, 512});
 inline constexpr int kFirstSplitOrder = 11;
 inline constexpr int kLastSplitOrder = 27;
 // clang-format off
-inline constexpr int kSplitOrders[2][kLastSplitOrder - kFirstSplitOrder + 1] = {
-    // order 11 12 13 14 15 16 17 18  19  20  21  22 23 24  25  26  27
-            {0, 0, 5, 6, 7, 8, 8, 8, 10, 10, 10, 10, 8, 8, 10, 10, 10},  // 32f
-            {0, 4, 5, 6, 7, 7, 8, 9,  9,  9,  8,  8, 9, 9,  9,  9,  0},  // 64f
-};
+using FftSplitTable = int[kLastSplitOrder - kFirstSplitOrder + 1];
+// order                                          11 12 13 14 15 16 17 18  19  20  21  22 23 24  25  26  27
+inline constexpr FftSplitTable FFTSplitOrder_32f = {0, 0, 5, 6, 7, 8, 8, 8, 10, 10, 10, 10, 8, 8, 10, 10, 10};
+inline constexpr FftSplitTable FFTSplitOrder_64f = {0, 4, 5, 6, 7, 7, 8, 9,  9,  9,  8,  8, 9, 9,  9,  9,  0};
 // clang-format on
 
 template <class T>
 constexpr int FftSplitOrder(int order) {
-  return kSplitOrders[std::is_same_v<T, Orb32f> ? 0 : 1][order - kFirstSplitOrder];
+  const int i = order - kFirstSplitOrder;
+  return std::is_same_v<T, Orb32f> ? FFTSplitOrder_32f[i] : FFTSplitOrder_64f[i];
 }
 
 }  // namespace orbs::ORBS_VARIANT
