@@ -3,6 +3,9 @@
 #include "transform/fft_real_pair.h"
 #include "transform/fft_straight.h"
 #include "transform/tuning.h"
+#if ORBS_VECTOR
+#include "transform/fft_vector_codelets.h"
+#endif
 
 namespace orbs::ORBS_VARIANT {
 namespace {
@@ -77,9 +80,23 @@ void RealCodelet(const T* src, T* dst, [[maybe_unused]] T scale) {
   }
 }
 
+#if ORBS_VECTOR
+inline constexpr int kFirstVectorCodelet = 4;  // 16 points are the first that fill vectors
+
+template <bool kForward, bool kScaled, int order, template <class> class Data, class T>
+void VectorCodelet(Data<const T> src, Data<T> dst, T scale) {
+  RunVectorCodelet<order, kForward>(src, dst, kScaled ? scale : T{1});
+}
+#endif
+
 template <bool kForward, bool kScaled, int order, template <class> class Data, class T>
 constexpr typename ComplexCodelets<kForward, Data, T>::Function ComplexEntry() {
-  if constexpr (order <= kFftTuning.codeletCeiling) {
+#if ORBS_VECTOR
+  if constexpr (order >= kFirstVectorCodelet && order <= kFftTuning.codeletCeiling) {
+    return VectorCodelet<kForward, kScaled, order, Data, T>;
+  } else
+#endif
+      if constexpr (order <= kFftTuning.codeletCeiling) {
     return ComplexCodelet<kForward, kScaled, (Index{1} << order), Data, T>;
   } else {
     return nullptr;

@@ -3,6 +3,7 @@
 #include "transform/fft.h"
 #include "transform/fft_codelets.h"
 #include "transform/fft_engine.h"
+#include "transform/tuning.h"
 #include "transform/work_buffer.h"
 
 namespace orbs::ORBS_VARIANT {

@@ -7,7 +7,6 @@
 
 #if ORBS_VECTOR
 #include "transform/fft_vector.h"
-#include "transform/fft_vector_temporary.h"
 #else
 #include "transform/fft_large.h"
 #endif

@@ -5,7 +5,6 @@
 #include "transform/tuning.h"
 #if ORBS_VECTOR
 #include "transform/fft_vector.h"
-#include "transform/fft_vector_temporary.h"
 #endif
 
 namespace orbs::ORBS_VARIANT {

@@ -8,7 +8,6 @@
 #include <cstdint>
 
 #include "frame/record.h"
-#include "transform/fft_vector_codelets.h"
 #include "transform/fft_vector_large.h"
 #include "transform/fft_vector_steps.h"
 #include "transform/tuning.h"
@@ -157,18 +156,6 @@ void VectorTransform(const FftPlan<T>& plan, int order, Data<const T> src, Data<
   }
 }
 
-template <bool kForward, template <class> class Data, class T>
-void VectorCodelet(int order, Data<const T> src, Data<T> dst, T scale) {
-  switch (order) {
-    case 4:
-      return RunVectorCodelet<4, kForward>(src, dst, scale);
-    case 5:
-      return RunVectorCodelet<5, kForward>(src, dst, scale);
-    default:
-      return RunVectorCodelet<6, kForward>(src, dst, scale);
-  }
-}
-
 template <class T>
 void BuildVectorTables(int order, SineTable<T> sine, Orb32s* bitRev, T* coreTw) {
   constexpr int kWidthBits = kPairs<T> == 4 ? 2 : kPairs<T> == 2 ? 1 : 0;
@@ -193,10 +180,8 @@ void BuildVectorLarge(int order, SineTable<T> sine, const FftLayout<T>&, FftPlan
   BuildLongTables(order, sine, plan->tables.layerTw.In(plan));
 }
 
-#define ORBS_INSTANTIATE_FOR(kForward, Data, T)                                                       \
-  template void VectorTransform<kForward, Data, T>(const FftPlan<T>&, int, Data<const T>, Data<T>, T, \
-                                                   void*);                                            \
-  template void VectorCodelet<kForward, Data, T>(int, Data<const T>, Data<T>, T);
+#define ORBS_INSTANTIATE_FOR(kForward, Data, T) \
+  template void VectorTransform<kForward, Data, T>(const FftPlan<T>&, int, Data<const T>, Data<T>, T, void*);
 #define ORBS_INSTANTIATE(T)                                           \
   ORBS_INSTANTIATE_FOR(true, Interleaved, T)                          \
   ORBS_INSTANTIATE_FOR(false, Interleaved, T)                         \

@@ -27,10 +27,6 @@ namespace orbs::ORBS_VARIANT {
 template <bool kForward, template <class> class Data, class T>
 void VectorTransform(const FftPlan<T>& plan, int order, Data<const T> src, Data<T> dst, T scale, void* work);
 
-// The transform of 2^order points without a plan, for orders 4 to 6; otherwise as above.
-template <bool kForward, template <class> class Data, class T>
-void VectorCodelet(int order, Data<const T> src, Data<T> dst, T scale);
-
 // The tables of a one-pass transform of 2^order points. There is room for 2^order / 4 + 1 elements at bitRev
 // and for 2^order + 1 complex values at coreTw. `sine` gives cosine and sine of 2 pi k / 2^order.
 template <class T>

@@ -6,9 +6,6 @@
 
 namespace orbs::ORBS_VARIANT {
 
-inline constexpr int kVectorCodeletFirst = 4;
-inline constexpr int kVectorCodeletLast = 6;
-
 // sin(2 pi k / 64) for k = 0 to 16.
 inline constexpr double kSine64[17] = {0.0,
                                        0.09801714032956060,
