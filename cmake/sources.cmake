@@ -12,7 +12,8 @@ set(ORBS_VARIANT_SOURCES
     frame/toolkit/flip.cpp
     frame/toolkit/integer.cpp
     frame/toolkit/real.cpp
-    gen/companding.cpp)
+    gen/companding.cpp
+    transform/spectrum.cpp)
 
 # Compiled once: what lies below the variants, and what stands in front of them.
 set(ORBS_COMMON_SOURCES frame/cache.cpp frame/cpuid.cpp frame/memory.cpp frame/processor.cpp)
