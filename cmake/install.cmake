@@ -9,6 +9,8 @@ install(EXPORT orbs90lgc-targets NAMESPACE orbs90lgc:: DESTINATION ${CMAKE_INSTA
 configure_package_config_file(cmake/orbs90lgc-config.cmake.in orbs90lgc-config.cmake
     INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/orbs90lgc)
 write_basic_package_version_file(orbs90lgc-config-version.cmake COMPATIBILITY SameMajorVersion)
+# Relative to the file itself: the folder may be chosen by cmake --install --prefix, or the installation moved.
+file(RELATIVE_PATH ORBS_PC_TO_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 configure_file(cmake/orbs90lgc.pc.in orbs90lgc.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/orbs90lgc-config.cmake ${CMAKE_CURRENT_BINARY_DIR}/orbs90lgc-config-version.cmake
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/orbs90lgc)

@@ -19,7 +19,8 @@ set(ORBS_VARIANT_SOURCES
     transform/fft_layout.cpp
     transform/fft_real.cpp
     transform/fft_sine.cpp
-    transform/fft_vector.cpp)
+    transform/fft_vector.cpp
+    transform/spectrum.cpp)
 
 # Compiled once: what lies below the variants, and what stands in front of them.
 set(ORBS_COMMON_SOURCES frame/cache.cpp frame/cpuid.cpp frame/memory.cpp frame/processor.cpp)

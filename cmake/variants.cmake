@@ -22,7 +22,8 @@ set(ORBS_COMPILE_OPTIONS
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   # The oldest processor that has x87. px must run where CPUID finds nothing.
   set(ORBS_BASELINE_FLAGS -march=i486 -mtune=generic -mno-mmx -mno-sse -mfpmath=387)
-  set(ORBS_VECTOR_BASELINE_FLAGS -march=i686 -mtune=generic -mfpmath=sse)
+  # Old callers align the stack to 4 bytes only; vectors on it need 16.
+  set(ORBS_VECTOR_BASELINE_FLAGS -march=i686 -mtune=generic -mfpmath=sse -mstackrealign)
 else()
   set(ORBS_BASELINE_FLAGS -march=x86-64 -mtune=generic)
   set(ORBS_VECTOR_BASELINE_FLAGS ${ORBS_BASELINE_FLAGS})
@@ -33,8 +34,9 @@ set(ORBS_FLAGS_w7 ${ORBS_VECTOR_BASELINE_FLAGS} -msse2)
 set(ORBS_FLAGS_v8 ${ORBS_VECTOR_BASELINE_FLAGS} -mssse3)
 set(ORBS_FLAGS_s8 ${ORBS_VECTOR_BASELINE_FLAGS} -mssse3 -mmovbe -mtune=bonnell)
 set(ORBS_FLAGS_p8 ${ORBS_VECTOR_BASELINE_FLAGS} -msse4.1)  # selected on SSE4.1 alone, so nothing of SSE4.2
-set(ORBS_FLAGS_g9 ${ORBS_VECTOR_BASELINE_FLAGS} -mavx)
-set(ORBS_FLAGS_h9 ${ORBS_VECTOR_BASELINE_FLAGS} -mavx2 -mfma -mbmi -mbmi2)
+# AVX implies POPCNT to the compiler, but the selection does not test for it.
+set(ORBS_FLAGS_g9 ${ORBS_VECTOR_BASELINE_FLAGS} -mavx -mno-popcnt)
+set(ORBS_FLAGS_h9 ${ORBS_VECTOR_BASELINE_FLAGS} -mavx2 -mfma -mbmi -mbmi2 -mno-popcnt)
 
 # orbs_add_variant(VARIANT SOURCE...): the object library orbs_VARIANT from the family sources.
 function(orbs_add_variant variant)

@@ -54,7 +54,8 @@ class BlockLayout {
   [[gnu::always_inline]] BlockLayout(int64_t recordBytes, int64_t alignment)
       : bytes_(RoundUp(recordBytes, alignment)) {}
 
-  // Room for `count` elements, rounded up to `alignment`; no array at all for a count below 1.
+  // Room for `count` elements, its size rounded up to `alignment`; where it starts follows from the parts
+  // before it. No array at all for a count below 1.
   template <class T>
   [[gnu::always_inline]] Offset<T> Add(int64_t count, int64_t alignment) {
     constexpr int64_t kLimit = int64_t{1} << 40;  // far beyond any block, far below overflow of the sum

@@ -18,6 +18,7 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <type_traits>
 
 #include "frame/variant.h"
 #include "orbs90lgc/types.h"
@@ -117,6 +118,8 @@ ORBS_INLINE Orb32s RoundHalfAwayToInt(Float y) {
 // conversion of a NaN (-2^31) ends up after saturation.
 template <class Result, class Float, class Conversion>
 ORBS_INLINE Result ClampAndConvert(Float y, Conversion convert) {
+  static_assert(sizeof(Result) < 4 || std::numeric_limits<Result>::is_signed,
+                "conversions give 32 signed bits");
   constexpr Result kMax = std::numeric_limits<Result>::max();
   constexpr Result kMin = std::numeric_limits<Result>::min();
   if (y >= static_cast<Float>(kMax)) return kMax;
@@ -172,7 +175,7 @@ ORBS_INLINE double DoubleFromBits(uint64_t bits) {
 }
 
 // 2^-s from the exponent field of binary32 with |s| taken modulo 128: the element-by-element paths of the
-// filters.
+// filters. 127 taken from the exponent of 1.0 leaves an empty field: the factor is then 0.
 ORBS_INLINE float InversePowerOfTwoModulo128(Orb32s s) {
   constexpr uint32_t kOne = 127;
   const uint32_t magnitude = (s < 0 ? 0 - static_cast<uint32_t>(s) : static_cast<uint32_t>(s)) & 127;

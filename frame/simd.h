@@ -1,13 +1,15 @@
 // The vector layer: thin types over the intrinsics of the variant's level, so that a kernel is written once
 // for any lane count. Kernels name the native types and ask them for their kLanes:
 //
+// clang-format off
 //            w7 v8 s8 p8     g9                    h9
 //   F32      F32x4           F32x8                 F32x8          binary32
 //   F64      F64x2           F64x4                 F64x4          binary64
 //   I32      I32x4           I32x8 (two halves)    I32x8          as many 32-bit lanes as F32 has
-//   I16      I16x8           I16x8                 I16x16         native integer vectors: AVX alone has 128
-//   bits U8       U8x16           U8x16                 U8x32 N32      I32x4           I32x4 I32x8 32-bit
-//   lanes of the same register width as I16
+//   I16      I16x8           I16x8                 I16x16         native integers: AVX alone has 128 bits of them
+//   U8       U8x16           U8x16                 U8x32
+//   N32      I32x4           I32x4                 I32x8          32-bit lanes in a register as wide as I16
+// clang-format on
 //
 // px has no vectors and does not include this. Loads and stores are unaligned: on every level above w7 they
 // cost nothing when the address is aligned, and callers' arrays carry no promise.

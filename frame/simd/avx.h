@@ -251,6 +251,16 @@ ORBS_INLINE I16x16 ShiftRightLogical(I16x16 a) {
   return {_mm256_srli_epi16(a.v, n)};
 }
 ORBS_INLINE I32x8 MulAddPairs(I16x16 a, I16x16 b) { return {_mm256_madd_epi16(a.v, b.v)}; }
+ORBS_INLINE I16x16 SubtractSaturating(I16x16 a, I16x16 b) { return {_mm256_subs_epi16(a.v, b.v)}; }
+ORBS_INLINE I32x8 As32(I16x16 a) { return {a.v}; }
+ORBS_INLINE I16x16 As16(I32x8 a) { return {a.v}; }
+ORBS_INLINE I16x16 SwapPairs(I16x16 a) {
+  constexpr int kSwapped = _MM_SHUFFLE(2, 3, 0, 1);
+  return {_mm256_shufflehi_epi16(_mm256_shufflelo_epi16(a.v, kSwapped), kSwapped)};
+}
+ORBS_INLINE I16x16 ReversePairs(I16x16 a) {
+  return {_mm256_permutevar8x32_epi32(a.v, _mm256_set_epi32(0, 1, 2, 3, 4, 5, 6, 7))};
+}
 
 ORBS_INLINE U8x32 operator+(U8x32 a, U8x32 b) { return {_mm256_add_epi8(a.v, b.v)}; }
 ORBS_INLINE U8x32 operator-(U8x32 a, U8x32 b) { return {_mm256_sub_epi8(a.v, b.v)}; }
@@ -283,6 +293,10 @@ ORBS_INLINE void StoreInterleaved(Orb16s* p, I16x16 even, I16x16 odd) {
   const __m256i high = _mm256_unpackhi_epi16(even.v, odd.v);
   I16x16{_mm256_permute2x128_si256(low, high, 0x20)}.Store(p);
   I16x16{_mm256_permute2x128_si256(low, high, 0x31)}.Store(p + 16);
+}
+ORBS_INLINE void InterleaveInLanes(I16x16 even, I16x16 odd, I16x16* low, I16x16* high) {
+  *low = {_mm256_unpacklo_epi16(even.v, odd.v)};
+  *high = {_mm256_unpackhi_epi16(even.v, odd.v)};
 }
 
 struct Sum64x4 {

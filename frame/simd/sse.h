@@ -267,6 +267,16 @@ ORBS_INLINE I16x8 ShiftRightLogical(I16x8 a) {
 }
 // Sums of the products of neighbouring lanes.
 ORBS_INLINE I32x4 MulAddPairs(I16x8 a, I16x8 b) { return {_mm_madd_epi16(a.v, b.v)}; }
+ORBS_INLINE I16x8 SubtractSaturating(I16x8 a, I16x8 b) { return {_mm_subs_epi16(a.v, b.v)}; }
+// A pair of lanes seen as one of 32 bits, the even lane in its low half; and back.
+ORBS_INLINE I32x4 As32(I16x8 a) { return {a.v}; }
+ORBS_INLINE I16x8 As16(I32x4 a) { return {a.v}; }
+// Pairs swapped, and the order of pairs reversed.
+ORBS_INLINE I16x8 SwapPairs(I16x8 a) {
+  constexpr int kSwapped = _MM_SHUFFLE(2, 3, 0, 1);
+  return {_mm_shufflehi_epi16(_mm_shufflelo_epi16(a.v, kSwapped), kSwapped)};
+}
+ORBS_INLINE I16x8 ReversePairs(I16x8 a) { return {_mm_shuffle_epi32(a.v, _MM_SHUFFLE(0, 1, 2, 3))}; }
 
 // ---- 8-bit integers; Greater compares signed ----
 
@@ -355,6 +365,12 @@ ORBS_INLINE I16x8 PackInLanes(I32x4 a, I32x4 b) { return Pack(a, b); }
 ORBS_INLINE void StoreInterleaved(Orb16s* p, I16x8 even, I16x8 odd) {
   I16x8{_mm_unpacklo_epi16(even.v, odd.v)}.Store(p);
   I16x8{_mm_unpackhi_epi16(even.v, odd.v)}.Store(p + 8);
+}
+// Undoes a split into even and odd lanes that was made in lanes: on what PackInLanes gives, the results are
+// in order.
+ORBS_INLINE void InterleaveInLanes(I16x8 even, I16x8 odd, I16x8* low, I16x8* high) {
+  *low = {_mm_unpacklo_epi16(even.v, odd.v)};
+  *high = {_mm_unpackhi_epi16(even.v, odd.v)};
 }
 
 // ---- Sums of 32-bit lanes in 64 bits ----

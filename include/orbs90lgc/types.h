@@ -24,38 +24,38 @@
 
 #include <stdint.h>
 
-typedef uint8_t Orb8u;
-typedef int8_t Orb8s;
-typedef uint16_t Orb16u;
-typedef int16_t Orb16s;
-typedef uint32_t Orb32u;
-typedef int32_t Orb32s;
-typedef int64_t Orb64s;
-typedef float Orb32f;
-typedef double Orb64f;
+typedef uint8_t Orb8u;   /**< 8-bit unsigned integer. */
+typedef int8_t Orb8s;    /**< 8-bit signed integer. */
+typedef uint16_t Orb16u; /**< 16-bit unsigned integer. */
+typedef int16_t Orb16s;  /**< 16-bit signed integer. */
+typedef uint32_t Orb32u; /**< 32-bit unsigned integer. */
+typedef int32_t Orb32s;  /**< 32-bit signed integer; also the type of every length. */
+typedef int64_t Orb64s;  /**< 64-bit signed integer. */
+typedef float Orb32f;    /**< IEEE 754 binary32. */
+typedef double Orb64f;   /**< IEEE 754 binary64. */
 
 /** Complex 16-bit integer. */
 typedef struct {
-  Orb16s re;
-  Orb16s im;
+  Orb16s re; /**< Real part. */
+  Orb16s im; /**< Imaginary part. */
 } Orb16sc;
 
 /** Complex 32-bit integer. */
 typedef struct {
-  Orb32s re;
-  Orb32s im;
+  Orb32s re; /**< Real part. */
+  Orb32s im; /**< Imaginary part. */
 } Orb32sc;
 
 /** Complex binary32. */
 typedef struct {
-  Orb32f re;
-  Orb32f im;
+  Orb32f re; /**< Real part. */
+  Orb32f im; /**< Imaginary part. */
 } Orb32fc;
 
 /** Complex binary64. */
 typedef struct {
-  Orb64f re;
-  Orb64f im;
+  Orb64f re; /**< Real part. */
+  Orb64f im; /**< Imaginary part. */
 } Orb64fc;
 
 /** Result of every function but one: 0 success, negative an error, positive a warning after finished work.
