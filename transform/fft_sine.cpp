@@ -17,52 +17,70 @@ constexpr SinQuarter<T> RoundedSines() {
 
 #if ORBS_VECTOR
 
-// Both functions of the angle high + low, 0 <= angle <= pi/4, with an error just above half a unit in the
-// last place: what the leading term of each series loses when it is rounded is carried along and added last.
+// Both functions of the angle high + low, 0 <= angle <= pi/4, to little more than half a unit in the last
+// place: what the large terms of the series lose when they are rounded is carried along and added last.
 struct SineAndCosine {
   F64 sine;
   F64 cosine;
 };
 
-ORBS_INLINE F64 Polynomial(F64 z, const Orb64f (&coefficients)[8]) {
-  F64 sum = F64::All(coefficients[7]);
-  for (int i = 6; i >= 0; --i) sum = MulAdd(sum, z, F64::All(coefficients[i]));
+ORBS_INLINE F64 Polynomial(F64 z, const Orb64f (&coefficients)[7]) {
+  F64 sum = F64::All(coefficients[6]);
+  for (int i = 5; i >= 0; --i) sum = MulAdd(sum, z, F64::All(coefficients[i]));
   return sum;
 }
 
+// a b = product + error exactly.
+struct ExactProduct {
+  F64 product;
+  F64 error;
+};
+ORBS_INLINE ExactProduct MulExactly(F64 a, F64 b) {
+  const auto upperBits = [](F64 x) {  // 26 of them
+    const F64 shifted = x * F64::All(134217729);
+    return shifted - (shifted - x);
+  };
+  const F64 product = a * b;
+  const F64 aHigh = upperBits(a);
+  const F64 bHigh = upperBits(b);
+  const F64 aLow = a - aHigh;
+  const F64 bLow = b - bHigh;
+  return {product, ((aHigh * bHigh - product) + aHigh * bLow + aLow * bHigh) + aLow * bLow};
+}
+
 ORBS_INLINE SineAndCosine EvaluateBoth(F64 high, F64 low) {
-  // The power series from x^3 and from x^4 on.
-  static constexpr Orb64f kSine[8] = {-1.0 / 6,
-                                      1.0 / 120,
+  // The power series from x^5 and from x^4 on.
+  static constexpr Orb64f kSine[7] = {1.0 / 120,
                                       -1.0 / 5040,
                                       1.0 / 362880,
                                       -1.0 / 39916800,
                                       1.0 / 6227020800.0,
                                       -1.0 / 1307674368000.0,
                                       1.0 / 355687428096000.0};
-  static constexpr Orb64f kCosine[8] = {1.0 / 24,
-                                        -1.0 / 720,
-                                        1.0 / 40320,
-                                        -1.0 / 3628800,
-                                        1.0 / 479001600,
-                                        -1.0 / 87178291200.0,
-                                        1.0 / 20922789888000.0,
-                                        -1.0 / 6402373705728000.0};
+  static constexpr Orb64f kCosine[7] = {
+      1.0 / 24,        -1.0 / 720,           1.0 / 40320,           -1.0 / 3628800,
+      1.0 / 479001600, -1.0 / 87178291200.0, 1.0 / 20922789888000.0};
+  constexpr Orb64f kSixth = 1.0 / 6;
+  constexpr auto kSixthError = static_cast<Orb64f>(1.0L / 6 - static_cast<long double>(kSixth));
   const F64 one = F64::All(1);
   const F64 half = F64::All(0.5);
-  const F64 z = high * high;
-  // high^2 - z exactly, from halves of 26 bits.
-  const F64 shifted = high * F64::All(134217729);
-  const F64 top = shifted - (shifted - high);
-  const F64 rest = high - top;
-  const F64 zLow = ((top * top - z) + (top * rest + top * rest)) + rest * rest;
+  const ExactProduct square = MulExactly(high, high);
+  const F64 z = square.product;
+  const F64 fourth = z * z;
 
-  const F64 sineRest = z * high * Polynomial(z, kSine) + low * (one - half * z);
+  const ExactProduct cube = MulExactly(high, z);
+  const ExactProduct sixth = MulExactly(cube.product, F64::All(kSixth));
+  const F64 sixthError = sixth.error + cube.product * F64::All(kSixthError) +
+                         (cube.error + high * square.error) * F64::All(kSixth);
+  const F64 sine = high - sixth.product;
+  const F64 sineRest = ((high - sine) - sixth.product) +
+                       (fourth * high * Polynomial(z, kSine) + (low * (one - half * z) - sixthError));
+
   const F64 halfZ = half * z;
-  const F64 leading = one - halfZ;
+  const F64 cosine = one - halfZ;
   const F64 cosineRest =
-      ((one - leading) - halfZ) + (z * z * Polynomial(z, kCosine) - (high * low + half * zLow));
-  return {high + sineRest, leading + cosineRest};
+      ((one - cosine) - halfZ) + (fourth * Polynomial(z, kCosine) - (high * low + half * square.error));
+  return {sine + sineRest, cosine + cosineRest};
 }
 
 ORBS_INLINE void StoreSines(Orb32f* p, F64 values) { StoreNarrow(p, values); }
