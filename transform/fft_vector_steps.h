@@ -49,12 +49,17 @@ ORBS_INLINE void RunPass(const PassStep<T>& step, Data data, size_t n) {
   }
 }
 
+// Whether n points stay in the first-level cache from one pass to the next.
+template <class T>
+constexpr bool FitsOneBlock(size_t n) {
+  return n * 2 * sizeof(T) <= 32 * 1024;
+}
+
 // The first `count` passes over n points in place, depth first: a block that fits the first-level cache goes
 // through all its passes before the next one is touched, and so on upward.
 template <bool kForward, class Data, class T>
 void RunPasses(const PassStep<T>* steps, int count, Data data, size_t n) {
-  constexpr size_t kBlockBytes = 32 * 1024;
-  if (n * 2 * sizeof(T) <= kBlockBytes || count == 1) {
+  if (FitsOneBlock<T>(n) || count == 1) {
     for (int i = 0; i < count; ++i) RunPass<kForward>(steps[i], data, n);
     return;
   }
@@ -77,7 +82,9 @@ ORBS_INLINE void RunTransform(const PassSteps<T>& plan, const Orb32s* reversal, 
   }
   const Interleaved<T> from = {middle};
   const PassStep<T>& last = plan.steps[plan.count - 1];
-  if (plan.count > 1) {
+  if (FitsOneBlock<T>(n)) {
+    for (int i = 0; i < plan.count - 1; ++i) RunPass<kForward>(plan.steps[i], from, n);
+  } else {
     for (size_t block = 0; block < n; block += last.q) {
       RunPasses<kForward>(plan.steps, plan.count - 1, from.At(static_cast<Index>(block)), last.q);
     }
