@@ -4,13 +4,13 @@
 //
 //   void Declare() {
 //     CompareInPlaces("VecMul_32fc", {16, 8}, [](Comparison& c, Orb32s n) {
-//       const Orb32fc* a = c.Array<Orb32fc>(n, UnitCircle);
+//       const Orb32fc* a = c.Array<Orb32fc>(n, OnUnitCircle);
 //       ...
 //       c.Ours([=] { VecMul_32fc(a, b, dst, n); });
 //       c.Peer("VOLK", [=] { volk_32fc_x2_multiply_32fc(...); });
 //     });
 //   }
-//   const Family family(kEveryVariant, Declare);
+//   const Family family(ORBS_VARIANT_INDEX, Declare);
 //
 // A comparison's function runs when its turn has come, so that only one comparison's arrays exist at a time.
 // A call works on the same data over and over: what is done in place must leave values that stay ordinary.
@@ -87,8 +87,8 @@ class Comparison {
   std::vector<Side> peers_;
 };
 
-// What one element costs: bytes read and written, for which a copy of the same bytes is the yardstick; or
-// arithmetic operations.
+// What one element costs: bytes read and written, for which a copy of the same bytes is the yardstick, or
+// arithmetic operations. The rate of the table is in whichever is given.
 struct Work {
   double bytesRead = 0;
   double bytesWritten = 0;

@@ -87,7 +87,7 @@ int Run(const char* program, const Options& options) {
   if (!DeclareFamilies(index)) return Fail(variant + " is not in this build");
   orbsPinVariant(index);
 
-  InitializeMeasuring(program, options.forGoogleBenchmark);
+  if (!InitializeMeasuring(program, options.forGoogleBenchmark)) return 1;
   const Report report(options.markdown ? Report::Format::kMarkdown : Report::Format::kText, variant);
   bool isFirst = true;
   for (const DeclaredComparison& declared : DeclaredComparisons()) {

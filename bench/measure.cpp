@@ -45,10 +45,10 @@ void Register(const std::string& name, const Repeat& repeat) {
 
 }  // namespace
 
-void InitializeMeasuring(const char* program, const std::vector<std::string>& options) {
+bool InitializeMeasuring(const char* program, const std::vector<std::string>& options) {
   // Many short repetitions in random order: what disturbs the machine for a while then hits all sides alike,
   // and the median leaves out what it hit.
-  std::vector<std::string> all = {program, "--benchmark_repetitions=9", "--benchmark_min_time=0.005",
+  std::vector<std::string> all = {program, "--benchmark_repetitions=15", "--benchmark_min_time=0.005",
                                   "--benchmark_enable_random_interleaving=true"};
   all.insert(all.end(), options.begin(), options.end());
   std::vector<char*> arguments;
@@ -56,6 +56,7 @@ void InitializeMeasuring(const char* program, const std::vector<std::string>& op
   arguments.push_back(nullptr);
   int count = static_cast<int>(all.size());
   benchmark::Initialize(&count, arguments.data());
+  return !benchmark::ReportUnrecognizedArguments(count, arguments.data());
 }
 
 Measurement Measure(const DeclaredComparison& declared) {

@@ -24,8 +24,9 @@ struct Measurement {
   std::optional<double> copy;
 };
 
-// Reads the options of Google Benchmark, --benchmark_..., and sets ours for what they leave open.
-void InitializeMeasuring(const char* program, const std::vector<std::string>& options);
+// Reads the options of Google Benchmark, --benchmark_..., and sets ours for what they leave open. False if
+// one of them is none of Google Benchmark's, which has told so.
+bool InitializeMeasuring(const char* program, const std::vector<std::string>& options);
 
 Measurement Measure(const DeclaredComparison& declared);
 

@@ -51,7 +51,7 @@ struct Report::Column {
 };
 
 const Report::Column Report::kColumns[] = {
-    {"function", -30}, {"variant", -7}, {"elements", 9},    {"ns/element", 10}, {"GB/s", 6},
+    {"function", -30}, {"variant", -7}, {"elements", 9},    {"ns/element", 10}, {"rate", 10},
     {"of memcpy", 9},  {"ratio", 6},    {"best peer", -18}, {"ns/element", 10}, {"other peers", -1}};
 
 void Report::PrintRow(const std::string* cells) const {
@@ -93,11 +93,12 @@ void Report::PrintHead(const std::string& selected) const {
 
 void Report::PrintLine(const DeclaredComparison& declared, const Measurement& measured) const {
   const double size = declared.size;
-  const double bytes = declared.work.Bytes() * size;
   std::string cells[std::size(kColumns)] = {declared.name, variant_, std::to_string(declared.size),
                                             Significant(measured.ours / size)};
-  // Bytes in a nanosecond are gigabytes in a second.
-  if (bytes > 0) cells[4] = Formatted("%.1f", bytes / measured.ours);
+  // So many a nanosecond are so many giga a second.
+  const double work = declared.work.operations > 0 ? declared.work.operations : declared.work.Bytes();
+  cells[4] =
+      Formatted(declared.work.operations > 0 ? "%.1f Gop/s" : "%.1f GB/s", work * size / measured.ours);
   if (measured.copy) cells[5] = Formatted("%.0f%%", 100 * *measured.copy / measured.ours);
   if (!measured.peers.empty()) {
     const MeasuredPeer& best = measured.peers.front();

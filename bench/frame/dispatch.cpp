@@ -8,7 +8,7 @@ namespace orbs::ORBS_VARIANT {
 namespace {
 
 void Declare() {
-  bench::CompareAtSizes("ALawToLin_8u16s through stub", {1, 2}, {1}, [](bench::Comparison& c, Orb32s n) {
+  bench::CompareAtSizes("stub: ALawToLin_8u16s", {1, 2}, {1}, [](bench::Comparison& c, Orb32s n) {
     const Orb8u* src = c.Array<Orb8u>(n);
     Orb16s* dst = c.Array<Orb16s>(n);
     c.Ours([=] { ::legacy90orbsALawToLin_8u16s(src, dst, n); });
