@@ -45,7 +45,7 @@ ORBS_INLINE F64 Ln(F64 x) {
   const F64 u = (m - one) / (m + one);
   const F64 t = u * u;
   F64 series = F64::All(1.0 / 17);
-  for (int term = 15; term >= 3; term -= 2) series = MulAdd(series, t, F64::All(1.0 / term));
+  ORBS_UNROLL for (int term = 15; term >= 3; term -= 2) series = MulAdd(series, t, F64::All(1.0 / term));
   const F64 twoU = u + u;
   const F64 lnM = MulAdd(twoU * t, series, twoU);
   return MulAdd(k, F64::All(0.6931471805599453), lnM);
@@ -71,8 +71,8 @@ OrbStatus LnElements(Orb32f* x, size_t n) {
           status = (negative & first) != 0 ? WarnLogNegative : WarnLogZero;
         }
         Orb32f logarithms[F32::kLanes];
-        for (int i = 0; i < F32::kLanes; i += F64::kLanes)
-          StoreNarrow(logarithms + i, Ln(LoadPositive(s + i)));
+        ORBS_UNROLL for (int i = 0; i < F32::kLanes; i += F64::kLanes)
+            StoreNarrow(logarithms + i, Ln(LoadPositive(s + i)));
 
         const F32 infinity = F32::All(kInfinity);
         F32 y = F32::Load(logarithms);
@@ -96,7 +96,7 @@ ORBS_INLINE F64 Exp(F64 x) {
   const F64 r = (x - k * F64::All(kLn2High)) - k * F64::All(kLn2Low);
   const F64 t = r * r;
   F64 p = F64::All(kExp[4]);
-  for (int i = 3; i >= 0; --i) p = MulAdd(p, t, F64::All(kExp[i]));
+  ORBS_UNROLL for (int i = 3; i >= 0; --i) p = MulAdd(p, t, F64::All(kExp[i]));
   const F64 c = r - t * p;
   const F64 y = F64::All(1) + (r + r * c / (F64::All(2) - c));
   const F64 scaled = Add64(y, ShiftLeft64(sum, 52));
