@@ -12,16 +12,15 @@
  * its result times 2^-scaleFactor, rounded and saturated to the type of the result. Any `scaleFactor` is
  * legal; a negative one multiplies.
  *
- * | Plan              | Identity   | Signal                   | Spectrum                 | Order, at most |
- * |-------------------|------------|--------------------------|--------------------------|----------------|
- * | FFTSpec_C_16sc    | 1          | N Orb16sc                | N Orb16sc                | 28 (`px`: 27)  |
- * | FFTSpec_C_16s     | 2          | N Orb16s re, N Orb16s im | N Orb16s re, N Orb16s im | 28 (`px`: 27)  |
- * | FFTSpec_R_16s     | 3          | N Orb16s                 | real spectrum of Orb16s  | 29 (`px`: 28)  |
- * | FFTSpec_C_32sc    | 0x434d414c | N Orb32sc                | N Orb32sc                | 27 (`px`, `s8`:
- * 26) | | FFTSpec_C_32s     | 0x434d414d | N Orb32s re, N Orb32s im | N Orb32s re, N Orb32s im | 27 (`px`,
- * `s8`: 26) | | FFTSpec_R_32s     | 0x434d414e | N Orb32s                 | real spectrum of Orb32s  | 28
- * (`px`, `s8`: 27) | | FFTSpec_R_16s32s  | 0x434d414f | N Orb16s                 | CCS of Orb32s            |
- * 29 (`px`: 28)  |
+ * | Plan             | Identity   | Signal                | Spectrum                | Largest order      |
+ * |------------------|------------|-----------------------|-------------------------|--------------------|
+ * | FFTSpec_C_16sc   | 1          | N Orb16sc             | N Orb16sc               | 28, `px` 27        |
+ * | FFTSpec_C_16s    | 2          | N Orb16s re, N im     | N Orb16s re, N im       | 28, `px` 27        |
+ * | FFTSpec_R_16s    | 3          | N Orb16s              | real spectrum of Orb16s | 29, `px` 28        |
+ * | FFTSpec_C_32sc   | 0x434d414c | N Orb32sc             | N Orb32sc               | 27, `px` `s8` 26   |
+ * | FFTSpec_C_32s    | 0x434d414d | N Orb32s re, N im     | N Orb32s re, N im       | 27, `px` `s8` 26   |
+ * | FFTSpec_R_32s    | 0x434d414e | N Orb32s              | real spectrum of Orb32s | 28, `px` `s8` 27   |
+ * | FFTSpec_R_16s32s | 0x434d414f | N Orb16s              | CCS of Orb32s           | 29, `px` 28        |
  *
  * The identity is the first 32-bit word of a plan; it is 0 in a plan that has been freed or whose building
  * failed. At the largest orders a block or a work buffer can exceed 2^31-1 bytes: its size is then reported
@@ -47,7 +46,8 @@
  * order.
  *  - Fixed-point path: the flag's factor and 2^-scaleFactor are one shift, rounded half up, except that
  *    1/sqrt(N) at odd orders multiplies once by 23170/32768. Full-scale data saturate in that last step only,
- *    never in between. All variants give the same result. The number of places is taken modulo 32.
+ *    never in between. Variants that take this path at an order give the same result. The number of places
+ *    is taken modulo 32.
  *  - Floating-point path: rounded to nearest, ties to even. Variants can differ in the last bit.
  *
  * At order 0 the 16-bit plans deliver the input through the scale factor, rounded half up, whatever the flag
