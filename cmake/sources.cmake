@@ -16,6 +16,11 @@ set(ORBS_VARIANT_SOURCES
     transform/fft_codelets.cpp
     transform/fft_complex.cpp
     transform/fft_init.cpp
+    transform/fft_integer_complex.cpp
+    transform/fft_integer_fixed.cpp
+    transform/fft_integer_init.cpp
+    transform/fft_integer_real.cpp
+    transform/fft_integer_tables.cpp
     transform/fft_layout.cpp
     transform/fft_real.cpp
     transform/fft_sine.cpp

@@ -6,6 +6,7 @@
 #define ORBS90LGC_H
 
 #include "orbs90lgc/companding.h"
+#include "orbs90lgc/fft.h"
 #include "orbs90lgc/frame.h"
 #include "orbs90lgc/spectrum.h"
 #include "orbs90lgc/status.h"

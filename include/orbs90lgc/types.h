@@ -90,6 +90,22 @@ enum {
   RoundHalfAway = 2 /**< To nearest, ties away from zero. */
 };
 
+/**
+ * @name Plans
+ *
+ * Opaque: a plan is made, used and ended by the functions of its family, through a pointer. It must not be
+ * copied or moved.
+ * @{
+ */
+typedef struct FFTSpec_C_16sc FFTSpec_C_16sc;     /**< Transform of Orb16sc. See fft.h. */
+typedef struct FFTSpec_C_16s FFTSpec_C_16s;       /**< Transform of 16-bit real and imaginary arrays. */
+typedef struct FFTSpec_C_32sc FFTSpec_C_32sc;     /**< Transform of Orb32sc. */
+typedef struct FFTSpec_C_32s FFTSpec_C_32s;       /**< Transform of 32-bit real and imaginary arrays. */
+typedef struct FFTSpec_R_16s FFTSpec_R_16s;       /**< Transform of 16-bit real signals. */
+typedef struct FFTSpec_R_32s FFTSpec_R_32s;       /**< Transform of 32-bit real signals. */
+typedef struct FFTSpec_R_16s32s FFTSpec_R_16s32s; /**< 16-bit real signals with a 32-bit spectrum. */
+/** @} */
+
 /** The version record that legacy90orbsGetLibVersion() points to. Static: never free or change it. */
 typedef struct {
   Orb32s major;          /**< 9 */
