@@ -11,10 +11,161 @@ inline constexpr Orb32f kLinearScale = 1.0f / 32768;  // 16-bit full scale to 1.
 
 // ---- Decoding ----
 
+inline constexpr int kMantissaShift = 19;  // from the lowest mantissa bit of a code to its place in binary32
+
+#ifdef __SSSE3__
+
+// With a byte shuffle, sign and exponent of a code, its upper four bits, look up what they contribute, and
+// the rest is arithmetic on bytes: half the instructions of the route through 32-bit lanes, or less.
+
+// A table by sign and exponent: magnitude(e) for positive codes, then `negate` of it for negative ones.
+struct SegmentTable {
+  Orb8u entries[16];
+
+  template <class Magnitude, class Negate>
+  constexpr SegmentTable(Magnitude magnitude, Negate negate) : entries() {
+    for (int e = 0; e < 8; ++e) {
+      entries[e] = static_cast<Orb8u>(magnitude(e));
+      entries[e + 8] = static_cast<Orb8u>(negate(magnitude(e)));
+    }
+  }
+};
+
+constexpr int Unchanged(int x) { return x; }
+constexpr int Negated(int x) { return -x; }
+constexpr int WithSignBit(int x) { return x | 0x80; }
+
+// ---- To 16 bits: two products of bytes a sample ----
+
+// A-law: +-(16m + 8) in the first segment, +-(16m + 264) 2^(e-1) above it. The second product is what does
+// not depend on m, split so that one factor fits 8 bits unsigned and the other 8 bits signed.
+ORBS_INLINE void ALawSamples(U8 code, I16* low, I16* high) {
+  static constexpr SegmentTable kPower{[](int e) { return e == 0 ? 1 : 1 << (e - 1); }, Negated};
+  static constexpr SegmentTable kOffset{[](int e) { return e == 0  ? 8
+                                                           : e < 4 ? 24 << (e - 1)
+                                                                   : 192; },
+                                        Unchanged};
+  static constexpr SegmentTable kOffsetFactor{[](int e) { return e == 0  ? 1
+                                                                 : e < 4 ? 11
+                                                                         : 11 << (e - 4); },
+                                              Negated};
+  const U8 c = OrderForMulAddBytes(code) ^ U8::All(0xD5);
+  const U8 segment = HighNibbles(c);
+  MulAddBytes(ShiftLeftAndMask<4>(c), LookUp(kPower.entries, segment), LookUp(kOffset.entries, segment),
+              LookUp(kOffsetFactor.entries, segment), low, high);
+}
+
+// Mu-law: +-((8m + 132) 2^e - 132), as 2^e times +-8m and 132 times +-(2^e - 1).
+ORBS_INLINE void MuLawSamples(U8 code, I16* low, I16* high) {
+  static constexpr SegmentTable kPower{[](int e) { return 1 << e; }, Unchanged};
+  static constexpr SegmentTable kBiasFactor{[](int e) { return (1 << e) - 1; }, Negated};
+  const U8 c = OrderForMulAddBytes(code) ^ U8::All(0xFF);
+  const U8 segment = HighNibbles(c);
+  // A code of 0, whose sign ApplySign would take for none, has no mantissa either.
+  const U8 mantissa = ApplySign(ShiftLeftAndMask<3>(c & U8::All(15)), c);
+  MulAddBytes(LookUp(kPower.entries, segment), mantissa, U8::All(132), LookUp(kBiasFactor.entries, segment),
+              low, high);
+}
+
+template <class Samples>
+ORBS_INLINE void DecodeToInt(const Orb8u* src, Orb16s* dst, Orb32s len, Samples samples) {
+  ForBlocks<U8::kLanes>(
+      static_cast<size_t>(len),
+      [samples](Orb16s* d, const Orb8u* s) {
+        I16 low;
+        I16 high;
+        samples(U8::Load(s), &low, &high);
+        low.Store(d);
+        high.Store(d + I16::kLanes);
+      },
+      dst, src);
+}
+
+inline void DecodeALaw(const Orb8u* src, Orb16s* dst, Orb32s len) {
+  DecodeToInt(src, dst, len, [](U8 code, I16* low, I16* high) { ALawSamples(code, low, high); });
+}
+
+inline void DecodeMuLaw(const Orb8u* src, Orb16s* dst, Orb32s len) {
+  DecodeToInt(src, dst, len, [](U8 code, I16* low, I16* high) { MuLawSamples(code, low, high); });
+}
+
+// ---- To binary32: the two upper bytes of each number, the lower two are 0 ----
+
+// Above the first segment both laws are (1 + m/16 + 1/32) 2^(e-8), mu-law less a bias. The exponent field is
+// 119 + e; its lowest bit, the complement of that of e, stands above the mantissa in the second byte.
+ORBS_INLINE U8 HighestByte(U8 c) {
+  static constexpr SegmentTable kHighest{[](int e) { return (119 + e) >> 1; }, WithSignBit};
+  return LookUp(kHighest.entries, HighNibbles(c));
+}
+ORBS_INLINE U8 SecondByte(U8 c) { return ShiftLeftAndMask<3>(c) ^ U8::All(0x84); }
+
+// The first segment of A-law, (2m + 1) 2^-12, differs from the above by these bits.
+struct FirstSegmentTables {
+  Orb8u highest[16];
+  Orb8u second[16];
+
+  constexpr FirstSegmentTables() : highest(), second() {
+    for (int m = 0; m < 16; ++m) {
+      const int n = 2 * m + 1;
+      int log2 = 0;
+      while (n >> (log2 + 1) != 0) ++log2;
+      const int bits = (127 - 12 + log2) << 7 | (n << (7 - log2) & 0x7F);
+      highest[m] = static_cast<Orb8u>(bits >> 8 ^ 119 >> 1);
+      second[m] = static_cast<Orb8u>(bits ^ m << 3 ^ 0x84);
+    }
+  }
+};
+
+ORBS_INLINE auto ALawFloats(U8 code) {
+  static constexpr FirstSegmentTables kFirstSegment;
+  const U8 c = OrderForTopBytes(code) ^ U8::All(0xD5);
+  // Beyond the first segment the index has its top bit set, for which a look-up gives 0.
+  const U8 index = (c & U8::All(0x7F)) + U8::All(0x70);
+  return FloatsFromTopBytes(HighestByte(c) ^ LookUp(kFirstSegment.highest, index),
+                            SecondByte(c) ^ LookUp(kFirstSegment.second, index));
+}
+
+// The bias is subtracted with the sign already on, so that code 0x7F becomes +0.
+template <class Vector>
+ORBS_INLINE Vector WithoutBias(Vector x) {
+  return x - ((x & Vector::All(-0.0f)) | Vector::All(132 * kLinearScale));
+}
+
+ORBS_INLINE auto MuLawFloats(U8 code) {
+  const U8 c = OrderForTopBytes(code) ^ U8::All(0xFF);
+  const auto biased = FloatsFromTopBytes(HighestByte(c), SecondByte(c));
+  return decltype(biased){{WithoutBias(biased.quarter[0]), WithoutBias(biased.quarter[1]),
+                           WithoutBias(biased.quarter[2]), WithoutBias(biased.quarter[3])}};
+}
+
+template <class Floats>
+ORBS_INLINE void DecodeToFloat(const Orb8u* src, Orb32f* dst, Orb32s len, Floats floats) {
+  ForBlocks<U8::kLanes>(
+      static_cast<size_t>(len),
+      [floats](Orb32f* d, const Orb8u* s) {
+        const auto x = floats(U8::Load(s));
+        constexpr int kQuarter = U8::kLanes / 4;
+        x.quarter[0].Store(d);
+        x.quarter[1].Store(d + kQuarter);
+        x.quarter[2].Store(d + 2 * kQuarter);
+        x.quarter[3].Store(d + 3 * kQuarter);
+      },
+      dst, src);
+}
+
+inline void DecodeALaw(const Orb8u* src, Orb32f* dst, Orb32s len) {
+  DecodeToFloat(src, dst, len, [](U8 code) { return ALawFloats(code); });
+}
+
+inline void DecodeMuLaw(const Orb8u* src, Orb32f* dst, Orb32s len) {
+  DecodeToFloat(src, dst, len, [](U8 code) { return MuLawFloats(code); });
+}
+
+#else
+
 // A code's seven bits as exponent and mantissa, with the half step that puts the value in the middle of its
 // interval. 2^7 times (1 + m/16 + 1/32) is 8m + 132, so an exponent field of 127 + 7 makes the mu-law value
 // in its own units.
-inline constexpr int kMantissaShift = 19;
 inline constexpr Orb32s kCodeBase = ((127 + 7) << 23) + (1 << 18);
 
 ORBS_INLINE F32 MuLawValue(I32 code) {
@@ -55,63 +206,6 @@ inline void DecodeALaw(const Orb8u* src, Orb32f* dst, Orb32s len) {
 inline void DecodeMuLaw(const Orb8u* src, Orb32f* dst, Orb32s len) {
   DecodeToFloat(src, dst, len, [](I32 code) { return MuLawValue(code); });
 }
-
-#ifdef __SSSE3__
-
-// With a byte shuffle the upper four bits of a code look up its power of two, and the byte multiply-add does
-// the rest without leaving 8 and 16 bits: half the instructions of the route through binary32.
-
-// A-law: +-(2m + 1) 2^0 or +-(2m + 33) 2^(e-1), times 8. Sign and exponent are the index.
-ORBS_INLINE void ALawSamples(U8 code, I16* low, I16* high) {
-  static constexpr Orb8u kPower[16] = {1, 1, 2, 4, 8, 16, 32, 64, 255, 255, 254, 252, 248, 240, 224, 192};
-  static constexpr Orb8u kHalfStep[16] = {1, 33, 33, 33, 33, 33, 33, 33, 1, 33, 33, 33, 33, 33, 33, 33};
-  const U8 c = OrderForMulAddBytes(code) ^ U8::All(0xD5);
-  const U8 segment = HighNibbles(c);
-  const U8 mantissa = c & U8::All(15);
-  const U8 steps = mantissa + mantissa + LookUp(kHalfStep, segment);
-  const U8 none = U8::All(0);
-  MulAddBytes(steps, LookUp(kPower, segment), none, none, low, high);
-  *low = ShiftLeft<3>(*low);
-  *high = ShiftLeft<3>(*high);
-}
-
-// Mu-law: +-((2m + 33) 2^e - 33), times 4. 2^7 is too large for the signed operand, so the sign goes with the
-// mantissa.
-ORBS_INLINE void MuLawSamples(U8 code, I16* low, I16* high) {
-  static constexpr Orb8u kPower[16] = {1, 2, 4, 8, 16, 32, 64, 128, 1, 2, 4, 8, 16, 32, 64, 128};
-  const U8 c = OrderForMulAddBytes(code) ^ U8::All(0xFF);
-  const U8 mantissa = c & U8::All(15);
-  const U8 sign = c | U8::All(1);  // never 0, which ApplySign would turn into 0
-  const U8 steps = ApplySign(mantissa + mantissa + U8::All(33), sign);
-  const U8 bias = ApplySign(U8::All(static_cast<Orb8u>(-33)), sign);
-  MulAddBytes(LookUp(kPower, HighNibbles(c)), steps, U8::All(1), bias, low, high);
-  *low = ShiftLeft<2>(*low);
-  *high = ShiftLeft<2>(*high);
-}
-
-template <class Samples>
-ORBS_INLINE void DecodeToInt(const Orb8u* src, Orb16s* dst, Orb32s len, Samples samples) {
-  ForBlocks<U8::kLanes>(
-      static_cast<size_t>(len),
-      [samples](Orb16s* d, const Orb8u* s) {
-        I16 low;
-        I16 high;
-        samples(U8::Load(s), &low, &high);
-        low.Store(d);
-        high.Store(d + I16::kLanes);
-      },
-      dst, src);
-}
-
-inline void DecodeALaw(const Orb8u* src, Orb16s* dst, Orb32s len) {
-  DecodeToInt(src, dst, len, [](U8 code, I16* low, I16* high) { ALawSamples(code, low, high); });
-}
-
-inline void DecodeMuLaw(const Orb8u* src, Orb16s* dst, Orb32s len) {
-  DecodeToInt(src, dst, len, [](U8 code, I16* low, I16* high) { MuLawSamples(code, low, high); });
-}
-
-#else
 
 template <class Value>
 ORBS_INLINE void DecodeToInt(const Orb8u* src, Orb16s* dst, Orb32s len, Value value) {
@@ -214,11 +308,12 @@ ORBS_INLINE void Encode(const Source* src, Orb8u* dst, Orb32s len, Codes codes) 
       dst, src);
 }
 
-// Full scale 1.0 to 16 bits: clamped, then to nearest with ties away from zero.
+// Full scale 1.0 to 16 bits: to nearest with ties away from zero, saturated. The packing does that for what
+// is too low, and the conversion gives -2^31 for what does not fit 32 bits.
 ORBS_INLINE I16 LoadAsSamples(const Orb32f* s) {
   return PackFrom([s](int i) {
     const F32 y = F32::Load(s + i) * F32::All(32768);
-    return RoundHalfAwayToInt(Max(F32::All(-32768), Min(F32::All(32767), y)));
+    return RoundHalfAwayToInt(Min(F32::All(32767), y));
   });
 }
 

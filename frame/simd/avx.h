@@ -69,7 +69,13 @@ ORBS_INLINE F32x8 DupEven(F32x8 a) { return {_mm256_moveldup_ps(a.v)}; }
 ORBS_INLINE F32x8 DupOdd(F32x8 a) { return {_mm256_movehdup_ps(a.v)}; }
 ORBS_INLINE F32x8 SwapPairs(F32x8 a) { return {_mm256_permute_ps(a.v, _MM_SHUFFLE(2, 3, 0, 1))}; }
 ORBS_INLINE F32x8 SwapHalves(F32x8 a) { return {_mm256_permute2f128_ps(a.v, a.v, 1)}; }
+#ifdef __AVX2__
+ORBS_INLINE F32x8 Reverse(F32x8 a) {
+  return {_mm256_permutevar8x32_ps(a.v, _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0))};
+}
+#else
 ORBS_INLINE F32x8 Reverse(F32x8 a) { return {_mm256_permute_ps(SwapHalves(a).v, _MM_SHUFFLE(0, 1, 2, 3))}; }
+#endif
 ORBS_INLINE F32x8 ReversePairs(F32x8 a) {
   return {_mm256_permute_ps(SwapHalves(a).v, _MM_SHUFFLE(1, 0, 3, 2))};
 }
@@ -270,6 +276,10 @@ ORBS_INLINE U8x32 operator^(U8x32 a, U8x32 b) { return {_mm256_xor_si256(a.v, b.
 ORBS_INLINE U8x32 Min(U8x32 a, U8x32 b) { return {_mm256_min_epu8(a.v, b.v)}; }
 ORBS_INLINE U8x32 Average(U8x32 a, U8x32 b) { return {_mm256_avg_epu8(a.v, b.v)}; }
 ORBS_INLINE U8x32 Greater(U8x32 a, U8x32 b) { return {_mm256_cmpgt_epi8(a.v, b.v)}; }
+template <int n>
+ORBS_INLINE U8x32 ShiftLeftAndMask(U8x32 a) {
+  return {_mm256_and_si256(_mm256_slli_epi16(a.v, n), _mm256_set1_epi8(static_cast<char>(0xFF << n)))};
+}
 ORBS_INLINE U8x32 HighNibbles(U8x32 a) {
   return {_mm256_and_si256(_mm256_srli_epi16(a.v, 4), _mm256_set1_epi8(15))};
 }
@@ -323,6 +333,23 @@ ORBS_INLINE void MulAddBytes(U8x32 a0, U8x32 b0, U8x32 a1, U8x32 b1, I16x16* low
 // The unpacks take the low and high part of each half, so the middle quarters change places beforehand.
 ORBS_INLINE U8x32 OrderForMulAddBytes(U8x32 a) {
   return {_mm256_permute4x64_epi64(a.v, _MM_SHUFFLE(3, 1, 2, 0))};
+}
+
+struct FloatQuartersX8 {
+  F32x8 quarter[4];
+};
+ORBS_INLINE FloatQuartersX8 FloatsFromTopBytes(U8x32 highest, U8x32 second) {
+  const __m256i zero = _mm256_setzero_si256();
+  const __m256i low = _mm256_unpacklo_epi8(second.v, highest.v);
+  const __m256i high = _mm256_unpackhi_epi8(second.v, highest.v);
+  return {{{_mm256_castsi256_ps(_mm256_unpacklo_epi16(zero, low))},
+           {_mm256_castsi256_ps(_mm256_unpackhi_epi16(zero, low))},
+           {_mm256_castsi256_ps(_mm256_unpacklo_epi16(zero, high))},
+           {_mm256_castsi256_ps(_mm256_unpackhi_epi16(zero, high))}}};
+}
+// Two unpacks in a row, each within halves: every second four bytes to the upper half beforehand.
+ORBS_INLINE U8x32 OrderForTopBytes(U8x32 a) {
+  return {_mm256_permutevar8x32_epi32(a.v, _mm256_setr_epi32(0, 2, 4, 6, 1, 3, 5, 7))};
 }
 
 #else  // AVX without AVX2
@@ -408,6 +435,9 @@ ORBS_INLINE void LoadWiden(const Orb16s* p, F64x4* out) {
   *out = {_mm256_cvtepi32_pd(x.v)};
 }
 ORBS_INLINE void StoreNarrow(Orb32f* p, F64x4 a) { _mm_storeu_ps(p, _mm256_cvtpd_ps(a.v)); }
+ORBS_INLINE F32x8 Narrow(F64x4 low, F64x4 high) {
+  return {_mm256_set_m128(_mm256_cvtpd_ps(high.v), _mm256_cvtpd_ps(low.v))};
+}
 ORBS_INLINE void StoreRounded(Orb32s* p, F64x4 a) { I32x4{_mm256_cvtpd_epi32(a.v)}.Store(p); }
 ORBS_INLINE void StoreTruncated(Orb32s* p, F64x4 a) { I32x4{_mm256_cvttpd_epi32(a.v)}.Store(p); }
 

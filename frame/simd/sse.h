@@ -288,6 +288,10 @@ ORBS_INLINE U8x16 operator^(U8x16 a, U8x16 b) { return {_mm_xor_si128(a.v, b.v)}
 ORBS_INLINE U8x16 Min(U8x16 a, U8x16 b) { return {_mm_min_epu8(a.v, b.v)}; }
 ORBS_INLINE U8x16 Average(U8x16 a, U8x16 b) { return {_mm_avg_epu8(a.v, b.v)}; }
 ORBS_INLINE U8x16 Greater(U8x16 a, U8x16 b) { return {_mm_cmpgt_epi8(a.v, b.v)}; }
+template <int n>
+ORBS_INLINE U8x16 ShiftLeftAndMask(U8x16 a) {
+  return {_mm_and_si128(_mm_slli_epi16(a.v, n), _mm_set1_epi8(static_cast<char>(0xFF << n)))};
+}
 ORBS_INLINE U8x16 HighNibbles(U8x16 a) { return {_mm_and_si128(_mm_srli_epi16(a.v, 4), _mm_set1_epi8(15))}; }
 
 // ---- Conversions ----
@@ -340,6 +344,10 @@ ORBS_INLINE void LoadWiden(const Orb16s* p, F64x2* out) {
 // As many elements as the source has lanes, narrowed.
 ORBS_INLINE void StoreNarrow(Orb32f* p, F64x2 a) {
   _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_castps_si128(_mm_cvtpd_ps(a.v)));
+}
+// Two vectors rounded to one of twice the lanes.
+ORBS_INLINE F32x4 Narrow(F64x2 low, F64x2 high) {
+  return {_mm_movelh_ps(_mm_cvtpd_ps(low.v), _mm_cvtpd_ps(high.v))};
 }
 ORBS_INLINE void StoreRounded(Orb32s* p, F64x2 a) {
   _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_cvtpd_epi32(a.v));
@@ -405,6 +413,20 @@ ORBS_INLINE void MulAddBytes(U8x16 a0, U8x16 b0, U8x16 a1, U8x16 b1, I16x8* low,
 }
 // The order in which a vector must be loaded so that MulAddBytes delivers in order: as it is, on 128 bits.
 ORBS_INLINE U8x16 OrderForMulAddBytes(U8x16 a) { return a; }
+// Four vectors of binary32, each number given by its highest byte and the one below.
+struct FloatQuarters {
+  F32x4 quarter[4];
+};
+ORBS_INLINE FloatQuarters FloatsFromTopBytes(U8x16 highest, U8x16 second) {
+  const __m128i zero = _mm_setzero_si128();
+  const __m128i low = _mm_unpacklo_epi8(second.v, highest.v);
+  const __m128i high = _mm_unpackhi_epi8(second.v, highest.v);
+  return {{{_mm_castsi128_ps(_mm_unpacklo_epi16(zero, low))},
+           {_mm_castsi128_ps(_mm_unpackhi_epi16(zero, low))},
+           {_mm_castsi128_ps(_mm_unpacklo_epi16(zero, high))},
+           {_mm_castsi128_ps(_mm_unpackhi_epi16(zero, high))}}};
+}
+ORBS_INLINE U8x16 OrderForTopBytes(U8x16 a) { return a; }
 #endif
 
 }  // namespace orbs::ORBS_VARIANT

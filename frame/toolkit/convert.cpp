@@ -35,12 +35,22 @@ void ConvertElements(const Source* src, Orb64f* dst, size_t n) {
       dst, src);
 }
 
+// Infinity, which the rounding of too large a value gives, becomes the largest finite value: its bits are one
+// less. More units add integers than compare floats; but AVX alone has no integers of this width.
+ORBS_INLINE F32 LimitToFinite(F32 y) {
+  if constexpr (N32::kLanes == F32::kLanes) {
+    const I32 isInfinite = Equal(AsInt(y) & I32::All(0x7FFFFFFF), I32::All(0x7F800000));
+    return AsFloat(AsInt(y) + isInfinite);
+  } else {
+    return Max(F32::All(-FLT_MAX), Min(F32::All(FLT_MAX), y));
+  }
+}
+
 void NarrowElements(const Orb64f* src, Orb32f* dst, size_t n) {
-  ForBlocks<F64::kLanes>(
+  ForBlocks<F32::kLanes>(
       n,
       [](Orb32f* d, const Orb64f* s) {
-        const F64 limited = Max(F64::All(-FLT_MAX), Min(F64::All(FLT_MAX), F64::Load(s)));
-        StoreNarrow(d, limited);
+        LimitToFinite(Narrow(F64::Load(s), F64::Load(s + F64::kLanes))).Store(d);
       },
       dst, src);
 }

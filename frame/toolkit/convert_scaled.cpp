@@ -20,14 +20,16 @@ ORBS_INLINE I32 RoundToInts(F32 y) {
   return RoundHalfAwayToInt(y);
 }
 
+// The conversions give -2^31 for whatever does not fit 32 bits, NaN included. Below the range that is the
+// bound already; so only values above it need care.
+
 template <Orb32s kMode, class Scale>
 void RoundScaled(const Orb32f* src, Orb16s* dst, size_t n, Scale scale) {
   ForBlocks<I16::kLanes>(
       n,
       [scale](Orb16s* d, const Orb32f* s) {
         PackFrom([scale, s](int i) {
-          const F32 y = scale(F32::Load(s + i));
-          return RoundToInts<kMode>(Max(F32::All(-32768), Min(F32::All(32767), y)));
+          return RoundToInts<kMode>(Min(F32::All(32767), scale(F32::Load(s + i))));
         }).Store(d);
       },
       dst, src);
@@ -35,16 +37,13 @@ void RoundScaled(const Orb32f* src, Orb16s* dst, size_t n, Scale scale) {
 
 template <Orb32s kMode, class Scale>
 void RoundScaled(const Orb32f* src, Orb32s* dst, size_t n, Scale scale) {
-  // The largest binary32 below 2^31. What lies above it must become 2^31-1, which has no binary32 of its own:
-  // the bits that are missing are put in by the comparison's mask.
-  constexpr Orb32f kLimit = 2147483520.0f;
   ForBlocks<F32::kLanes>(
       n,
       [scale](Orb32s* d, const Orb32f* s) {
         const F32 y = scale(F32::Load(s));
-        const I32 beyond = ShiftRightLogical(AsInt(Less(F32::All(kLimit), y)), 1);
-        const F32 limited = Max(F32::All(-2147483648.0f), Min(F32::All(kLimit), y));
-        (RoundToInts<kMode>(limited) | beyond).Store(d);
+        // 2^31-1 has no binary32 of its own: it is the complement of -2^31.
+        const I32 beyond = AsInt(LessEqual(F32::All(2147483648.0f), y));
+        (RoundToInts<kMode>(y) ^ beyond).Store(d);
       },
       dst, src);
 }
@@ -54,7 +53,7 @@ void RoundScaled(const Orb64f* src, Orb32s* dst, size_t n, Scale scale) {
   ForBlocks<F64::kLanes>(
       n,
       [scale](Orb32s* d, const Orb64f* s) {
-        const F64 y = Max(F64::All(-2147483648.0), Min(F64::All(2147483647.0), scale(F64::Load(s))));
+        const F64 y = Min(F64::All(2147483647.0), scale(F64::Load(s)));
         if constexpr (kMode == RoundNear) {
           StoreRounded(d, y);
         } else if constexpr (kMode == RoundZero) {

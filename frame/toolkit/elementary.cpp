@@ -45,6 +45,7 @@ ORBS_INLINE F64 Ln(F64 x) {
   const F64 u = (m - one) / (m + one);
   const F64 t = u * u;
   F64 series = F64::All(1.0 / 17);
+  // Unrolled, or the quotients are divisions at run time.
   ORBS_UNROLL for (int term = 15; term >= 3; term -= 2) series = MulAdd(series, t, F64::All(1.0 / term));
   const F64 twoU = u + u;
   const F64 lnM = MulAdd(twoU * t, series, twoU);
@@ -70,12 +71,8 @@ OrbStatus LnElements(Orb32f* x, size_t n) {
           const int first = bad & -bad;
           status = (negative & first) != 0 ? WarnLogNegative : WarnLogZero;
         }
-        Orb32f logarithms[F32::kLanes];
-        ORBS_UNROLL for (int i = 0; i < F32::kLanes; i += F64::kLanes)
-            StoreNarrow(logarithms + i, Ln(LoadPositive(s + i)));
-
         const F32 infinity = F32::All(kInfinity);
-        F32 y = F32::Load(logarithms);
+        F32 y = Narrow(Ln(LoadPositive(s)), Ln(LoadPositive(s + F64::kLanes)));
         y = Select(Equal(v, infinity), infinity, y);
         y = Select(IsNan(v), F32::All(FloatFromBits(0x7FC00000u)), y);
         y = Select(isZero, F32::All(-kInfinity), y);

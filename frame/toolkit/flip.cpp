@@ -54,6 +54,13 @@ void ReverseInPlace(T* x, size_t parts) {
 void ReverseCopy(const Orb32f* src, Orb32f* dst, size_t n) {
   constexpr size_t kLanes = F32::kLanes;
   size_t i = 0;
+  // Two vectors a round: twice as fast as one in the first-level cache, while four are slower than two beyond
+  // it.
+  for (; i + 2 * kLanes <= n; i += 2 * kLanes) {
+    const Orb32f* s = src + n - 2 * kLanes - i;
+    Reverse(F32::Load(s)).Store(dst + i + kLanes);
+    Reverse(F32::Load(s + kLanes)).Store(dst + i);
+  }
   for (; i + kLanes <= n; i += kLanes) Reverse(F32::Load(src + n - kLanes - i)).Store(dst + i);
   if (i < n) ReverseFew<1>(src, dst + i, n - i);
 }
