@@ -16,8 +16,13 @@ Expected OneOperation(Wide value) {
 
 // ---- Real ----
 
-template <class T>
-void CheckMulC(OrbStatus (*mulC)(T, T*, Orb32s), const SweepOptions& options) {
+template <class T, class Bits>
+void CheckMulC(OrbStatus (*mulC)(T, T*, Orb32s), Bits signallingNan, const SweepOptions& options) {
+  // 1 leaves even those as they are that a multiplication would make quiet.
+  std::vector<Bits> nans(9, signallingNan);
+  EXPECT_EQ(mulC(1, reinterpret_cast<T*>(nans.data()), 9), StatusOk);
+  EXPECT_EQ(nans, std::vector<Bits>(9, signallingNan));
+
   for (const T constant : {T(-0.3), T(1), T(0), T(-0.0)}) {
     Sweep([=](T* x, Orb32s n) { return mulC(constant, x, n); },
           [=](size_t i, size_t, const T* x) {
@@ -32,8 +37,8 @@ void CheckMulC(OrbStatus (*mulC)(T, T*, Orb32s), const SweepOptions& options) {
 TEST_P(ToolkitArithmeticTest, ConstantsAndSums) {
   for (const double scale : {1000.0, 1e-39}) {  // the second: subnormal binary32
     const SweepOptions options = {scale, false, Specials<Orb32f>()};
-    CheckMulC(t.VecMulC_32f_I, options);
-    CheckMulC(t.VecMulC_64f_I, options);
+    CheckMulC(t.VecMulC_32f_I, uint32_t{0x7F812345}, options);
+    CheckMulC(t.VecMulC_64f_I, uint64_t{0x7FF0123456789ABC}, options);
     Sweep(
         t.VecAdd_32f_I,
         [](size_t i, size_t, const Orb32f* a, const Orb32f* b) {
