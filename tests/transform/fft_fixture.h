@@ -15,8 +15,12 @@ namespace orbs::test {
 
 using Bytes = GuardedArray<unsigned char>;
 
-// Large transforms take minutes where each instruction is emulated.
-inline constexpr bool kIs64Bit = sizeof(void*) == 8;
+// Large transforms take minutes where each instruction is emulated or each access is checked.
+#ifdef __SANITIZE_ADDRESS__
+inline constexpr bool kRunsLarge = false;
+#else
+inline constexpr bool kRunsLarge = sizeof(void*) == 8;
+#endif
 
 template <class T>
 inline constexpr int kWidth = sizeof(T) == 4 ? 0 : 1;
