@@ -164,7 +164,7 @@ ORBS_INLINE void LoadPairs(const Orb64f* re, const Orb64f* im, F64x2* out) { *ou
 ORBS_INLINE void StorePairs(Orb32f* re, Orb32f* im, F32x4 a) {
   const __m128i parts = _mm_castps_si128(_mm_shuffle_ps(a.v, a.v, _MM_SHUFFLE(3, 1, 2, 0)));
   _mm_storel_epi64(reinterpret_cast<__m128i*>(re), parts);
-  _mm_storeh_pd(reinterpret_cast<double*>(im), _mm_castsi128_pd(parts));
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(im), _mm_unpackhi_epi64(parts, parts));
 }
 ORBS_INLINE void StorePairs(Orb64f* re, Orb64f* im, F64x2 a) {
   _mm_storel_pd(re, a.v);
