@@ -14,13 +14,13 @@ template <bool kForward, bool kScaled, Index n, template <class> class Data, cla
 void ComplexCodelet(Data<const T> src, Data<T> dst, [[maybe_unused]] T scale) {
   Value<T> x[n];
   Value<T> y[n];
-  Unrolled<n>([&](auto i) { x[i] = Get(src, i); });
+  ForEach<n>([&](auto i) { x[i] = Get(src, i); });
   if constexpr (kScaled) {
     StraightTransform<kForward, n, T>(x, y, scale);
   } else {
     StraightTransform<kForward, n, T>(x, y, Unscaled{});
   }
-  Unrolled<n>([&](auto i) { Put(dst, i, y[i]); });
+  ForEach<n>([&](auto i) { Put(dst, i, y[i]); });
 }
 
 // Pairs of neighbours as complex points: half as many, and one step that tells the two spectra apart.
@@ -30,10 +30,10 @@ ORBS_INLINE void RealTransform(const T* src, T* dst, ScaleType scale) {
   Value<T> x[half];
   Value<T> y[half];
   if constexpr (kForward) {
-    Unrolled<half>([&](auto i) { x[i] = {src[2 * i], src[2 * i + 1]}; });
+    ForEach<half>([&](auto i) { x[i] = {src[2 * i], src[2 * i + 1]}; });
     StraightTransform<true, half, T>(x, y, scale);
   } else {
-    Unrolled<half>([&](auto i) { y[i] = {src[2 * i], src[2 * i + 1]}; });
+    ForEach<half>([&](auto i) { y[i] = {src[2 * i], src[2 * i + 1]}; });
   }
   const Wide<T> sum = y[0].re + y[0].im;
   const Wide<T> difference = y[0].re - y[0].im;
@@ -56,13 +56,13 @@ ORBS_INLINE void RealTransform(const T* src, T* dst, ScaleType scale) {
     y[n / 4] = kForward ? Value<T>{y[n / 4].re, -y[n / 4].im} : Value<T>{2 * y[n / 4].re, -2 * y[n / 4].im};
   }
   if constexpr (kForward) {
-    Unrolled<half>([&](auto i) {
+    ForEach<half>([&](auto i) {
       dst[2 * i] = static_cast<T>(y[i].re);
       dst[2 * i + 1] = static_cast<T>(y[i].im);
     });
   } else {
     StraightTransform<false, half, T>(y, x, scale);
-    Unrolled<half>([&](auto i) {
+    ForEach<half>([&](auto i) {
       dst[2 * i] = static_cast<T>(x[i].re);
       dst[2 * i + 1] = static_cast<T>(x[i].im);
     });

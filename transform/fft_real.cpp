@@ -70,6 +70,13 @@ ORBS_INLINE void TransformHalf(const FftPlan<T>& plan, const T* src, T* dst, voi
   }
 }
 
+// The first pair: the points 0 and N/2 of one spectrum are the sum and difference of those of the other.
+template <class T>
+ORBS_INLINE void SumAndDifference(Wide<T> a, Wide<T> b, T* pair) {
+  pair[0] = static_cast<T>(a + b);
+  pair[1] = static_cast<T>(a - b);
+}
+
 // Needs no work buffer, and has none of the tables.
 template <class T>
 ORBS_INLINE bool IsRealCodelet(const FftPlan<T>& plan) {
@@ -86,10 +93,7 @@ OrbStatus ForwardToPerm(const FftPlan<T>& plan, const T* src, T* dst, void* work
   const WorkBuffer buffer(plan.workSize, work);
   if (buffer.Failed()) return StatusMemAlloc;
   TransformHalf<true>(plan, src, dst, buffer.Data());
-  const T a = dst[0];
-  const T b = dst[1];
-  dst[0] = a + b;
-  dst[1] = a - b;
+  SumAndDifference(dst[0], dst[1], dst);
   FFTRealSplitFwd(dst, plan.order, plan.tables.realFwdTw.In(&plan));
   return StatusOk;
 }
@@ -115,8 +119,7 @@ OrbStatus InverseFrom(const FftPlan<T>& plan, const T* src, T* dst, void* work) 
   const T a = spectrum[0];
   const T b = spectrum[layout == Layout::ccs ? n : 1];
   FFTRealSplitInv(spectrum, dst, plan.order, plan.tables.realInvTw.In(&plan));
-  dst[0] = a + b;
-  dst[1] = a - b;
+  SumAndDifference(a, b, dst);
   TransformHalf<false>(plan, dst, dst, buffer.Data());
   return StatusOk;
 }

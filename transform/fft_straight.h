@@ -21,6 +21,16 @@ ORBS_INLINE void Unrolled(Body body) {
   UnrolledOver(body, std::make_integer_sequence<Index, count>{});
 }
 
+// The same where the argument need not be a constant: a plain loop in px.
+template <Index count, class Body>
+ORBS_INLINE void ForEach(Body body) {
+#if ORBS_VECTOR
+  Unrolled<count>(body);
+#else
+  for (Index i = 0; i < count; ++i) body(i);
+#endif
+}
+
 // The constants are those of binary64 in every type that holds them.
 template <class T>
 constexpr Wide<T> Constant(long double value) {
@@ -58,10 +68,13 @@ ORBS_INLINE Value<T> Scale(Value<T> a, T scale) {
   return Times(a, Wide<T>(scale));
 }
 
+template <bool kForward, Index n, class T, class ScaleType>
+ORBS_INLINE void StraightTransform(const Value<T>* x, Value<T>* y, ScaleType scale);
+
 // y = transform of x, split radix: the even outputs from half the points, the outputs 1 and 3 mod 4 from a
 // quarter each. A scale goes into the first layer of sums.
 template <bool kForward, Index n, class T, class ScaleType>
-ORBS_INLINE void StraightTransform(const Value<T>* x, Value<T>* y, ScaleType scale) {
+ORBS_INLINE void TransformInLine(const Value<T>* x, Value<T>* y, ScaleType scale) {
   if constexpr (n == 1) {
     y[0] = Scale(x[0], scale);
   } else if constexpr (n == 2) {
@@ -78,7 +91,7 @@ ORBS_INLINE void StraightTransform(const Value<T>* x, Value<T>* y, ScaleType sca
     y[3] = d - v;
   } else {
     Value<T> sums[n / 2];
-    Unrolled<n / 2>([&](auto i) { sums[i] = Scale(x[i] + x[i + n / 2], scale); });
+    ForEach<n / 2>([&](auto i) { sums[i] = Scale(x[i] + x[i + n / 2], scale); });
     Value<T> first[n / 4];
     Value<T> third[n / 4];
     Unrolled<n / 4>([&](auto i) {
@@ -89,12 +102,27 @@ ORBS_INLINE void StraightTransform(const Value<T>* x, Value<T>* y, ScaleType sca
     });
     Value<T> even[n / 2];
     StraightTransform<kForward, n / 2, T>(sums, even, Unscaled{});
-    Unrolled<n / 2>([&](auto i) { y[2 * i] = even[i]; });
+    ForEach<n / 2>([&](auto i) { y[2 * i] = even[i]; });
     Value<T> odd[n / 4];
     StraightTransform<kForward, n / 4, T>(first, odd, Unscaled{});
-    Unrolled<n / 4>([&](auto i) { y[4 * i + 1] = odd[i]; });
+    ForEach<n / 4>([&](auto i) { y[4 * i + 1] = odd[i]; });
     StraightTransform<kForward, n / 4, T>(third, odd, Unscaled{});
-    Unrolled<n / 4>([&](auto i) { y[4 * i + 3] = odd[i]; });
+    ForEach<n / 4>([&](auto i) { y[4 * i + 3] = odd[i]; });
+  }
+}
+
+// In line, but for px, where routines and parts of routines share one body: px's long doubles make long code
+// that takes the compiler minutes with sanitizers.
+template <bool kForward, Index n, class T, class ScaleType>
+__attribute__((noinline)) void SharedTransform(const Value<T>* x, Value<T>* y, ScaleType scale) {
+  TransformInLine<kForward, n, T>(x, y, scale);
+}
+template <bool kForward, Index n, class T, class ScaleType>
+ORBS_INLINE void StraightTransform(const Value<T>* x, Value<T>* y, ScaleType scale) {
+  if constexpr (!ORBS_VECTOR && n >= 8) {
+    SharedTransform<kForward, n, T>(x, y, scale);
+  } else {
+    TransformInLine<kForward, n, T>(x, y, scale);
   }
 }
 
