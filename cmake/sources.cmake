@@ -12,6 +12,10 @@ set(ORBS_VARIANT_SOURCES
     frame/toolkit/flip.cpp
     frame/toolkit/integer.cpp
     frame/toolkit/real.cpp
+    fir/block.cpp
+    fir/float_access.cpp
+    fir/float_init.cpp
+    fir/one.cpp
     gen/companding.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp

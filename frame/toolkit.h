@@ -7,7 +7,8 @@
 // and `_128` of fills and copies stand for any element of 2, 4, 8 or 16 bytes, which is why those take
 // untyped pointers.
 //
-// Source and result may be the same array unless a row forbids it; they must not overlap otherwise.
+// Source and result of one element size may be the same array unless a row forbids it; they must not overlap
+// otherwise.
 #ifndef ORBS_FRAME_TOOLKIT_H
 #define ORBS_FRAME_TOOLKIT_H
 

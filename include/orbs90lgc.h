@@ -7,6 +7,7 @@
 
 #include "orbs90lgc/companding.h"
 #include "orbs90lgc/fft.h"
+#include "orbs90lgc/fir.h"
 #include "orbs90lgc/frame.h"
 #include "orbs90lgc/spectrum.h"
 #include "orbs90lgc/status.h"

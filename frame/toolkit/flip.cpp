@@ -67,20 +67,24 @@ void ReverseCopy(const Orb32f* src, Orb32f* dst, size_t n) {
 
 #else
 
+// Elements move as bytes: a pass through the registers of the x87 would turn a signalling NaN into a quiet one.
+
 template <int kPartsPerElement, class T>
 void ReverseInPlace(T* x, size_t parts) {
+  struct Element {
+    unsigned char bytes[kPartsPerElement * sizeof(T)];
+  } first, last;
   for (size_t low = 0, high = parts - kPartsPerElement; low < high;
        low += kPartsPerElement, high -= kPartsPerElement) {
-    for (size_t part = 0; part < kPartsPerElement; ++part) {
-      const T t = x[low + part];
-      x[low + part] = x[high + part];
-      x[high + part] = t;
-    }
+    std::memcpy(&first, x + low, sizeof first);
+    std::memcpy(&last, x + high, sizeof last);
+    std::memcpy(x + low, &last, sizeof last);
+    std::memcpy(x + high, &first, sizeof first);
   }
 }
 
 void ReverseCopy(const Orb32f* src, Orb32f* dst, size_t n) {
-  for (size_t i = 0; i < n; ++i) dst[i] = src[n - 1 - i];
+  for (size_t i = 0; i < n; ++i) std::memcpy(dst + i, src + (n - 1 - i), sizeof *dst);
 }
 
 #endif

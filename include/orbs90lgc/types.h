@@ -106,6 +106,16 @@ typedef struct FFTSpec_R_32s FFTSpec_R_32s;       /**< Transform of 32-bit real 
 typedef struct FFTSpec_R_16s32s FFTSpec_R_16s32s; /**< 16-bit real signals with a 32-bit spectrum. */
 /** @} */
 
+/**
+ * @name States
+ *
+ * Opaque, as plans are: made, used and ended by the functions of their family, through a pointer.
+ * @{
+ */
+typedef struct FIRFloatState FIRFloatState; /**< FIR filter with floating-point taps. See fir.h. */
+typedef struct FIRIntState FIRIntState;     /**< FIR filter with integer taps. See fir.h. */
+/** @} */
+
 /** The version record that legacy90orbsGetLibVersion() points to. Static: never free or change it. */
 typedef struct {
   Orb32s major;          /**< 9 */

@@ -1,0 +1,140 @@
+// The inner products of a run of outputs: y[i] = sum over k of taps[k] x[i + k], real or complex.
+//
+// A vector holds neighbouring outputs, each tap is broadcast: no sum runs across a vector, and an output's
+// terms are added in the order of k. Complex sums are kept in two parts, of h.re x and of h.im x, so that the
+// swap of real and imaginary part is made once an output and not once a term:
+//   y = a + (-b.im, b.re),   a = sum h.re x,   b = sum h.im x
+#ifndef ORBS_FIR_BLOCK_KERNELS_H
+#define ORBS_FIR_BLOCK_KERNELS_H
+
+#include <cstring>
+
+#include "fir/state.h"
+#include "frame/simd.h"
+
+namespace orbs::ORBS_VARIANT {
+
+#if ORBS_VECTOR
+
+template <class V>
+ORBS_INLINE V AddRotated(V a, V b) {
+  return a + (SwapPairs(b) ^ EvenSigns(static_cast<V*>(nullptr)));
+}
+
+// kVectors vectors of outputs from x on; stride between terms is one element, kParts parts.
+template <int kParts, int kVectors, class V, class Part>
+ORBS_INLINE void FirTile(const Part* x, const Part* taps, size_t n, V (&y)[kVectors]) {
+  V a[kVectors];
+  V b[kVectors];
+  ORBS_UNROLL
+  for (int v = 0; v < kVectors; ++v) a[v] = b[v] = V::Zero();
+  for (size_t k = 0; k < n; ++k, x += kParts, taps += kParts) {
+    const V re = V::All(taps[0]);
+    ORBS_UNROLL
+    for (int v = 0; v < kVectors; ++v) a[v] = MulAdd(re, V::Load(x + v * V::kLanes), a[v]);
+    if constexpr (kParts == 2) {
+      const V im = V::All(taps[1]);
+      ORBS_UNROLL
+      for (int v = 0; v < kVectors; ++v) b[v] = MulAdd(im, V::Load(x + v * V::kLanes), b[v]);
+    }
+  }
+  ORBS_UNROLL
+  for (int v = 0; v < kVectors; ++v) y[v] = kParts == 2 ? AddRotated(a[v], b[v]) : a[v];
+}
+
+// One vector of outputs leaves the multiply-adders waiting for each other: the terms take turns in four sums.
+template <int kParts, class V, class Part>
+ORBS_INLINE V FirVector(const Part* x, const Part* taps, size_t n) {
+  constexpr size_t kSums = 4;
+  V a[kSums];
+  V b[kSums];
+  ORBS_UNROLL
+  for (size_t j = 0; j < kSums; ++j) a[j] = b[j] = V::Zero();
+  const auto add = [&](size_t j, size_t k) {
+    const V samples = V::Load(x + k * kParts);
+    a[j] = MulAdd(V::All(taps[k * kParts]), samples, a[j]);
+    if constexpr (kParts == 2) b[j] = MulAdd(V::All(taps[k * kParts + 1]), samples, b[j]);
+  };
+  size_t k = 0;
+  for (; k + kSums <= n; k += kSums) {
+    ORBS_UNROLL
+    for (size_t j = 0; j < kSums; ++j) add(j, k + j);
+  }
+  for (; k < n; ++k) add(0, k);
+  const V re = (a[0] + a[1]) + (a[2] + a[3]);
+  return kParts == 2 ? AddRotated(re, (b[0] + b[1]) + (b[2] + b[3])) : re;
+}
+
+// 16 vector registers: eight sums of a real tile leave room for the tap and the loads, and eight in flight
+// keep two multiply-adders of four cycles busy. A complex tile of four vectors has eight sums too.
+template <int kParts>
+inline constexpr int kFirTileVectors = kParts == 1 ? 8 : 4;
+
+// `count` outputs. Reads whole vectors: where count is below a vector, up to a vector's end behind x[n-1].
+template <class Tap>
+void FirSums(const Tap* src, const Tap* tapArray, Orb32s tapCount, Tap* dst, size_t count) {
+  using Part = PartOf<Tap>;
+  using V = VectorOf<Part>;
+  constexpr int kParts = PartsOf<Tap>::kCount;
+  constexpr int kTile = kFirTileVectors<kParts>;
+  constexpr size_t kLanes = V::kLanes;
+  const Part* const x = Parts(src);
+  const Part* const taps = Parts(tapArray);
+  Part* const y = Parts(dst);
+  const auto n = static_cast<size_t>(tapCount);
+  const size_t parts = count * kParts;
+  size_t i = 0;
+  for (; i + kTile * kLanes <= parts; i += kTile * kLanes) {
+    V sums[kTile];
+    FirTile<kParts>(x + i, taps, n, sums);
+    ORBS_UNROLL
+    for (int v = 0; v < kTile; ++v) sums[v].Store(y + i + static_cast<size_t>(v) * kLanes);
+  }
+  if (i + kTile / 2 * kLanes <= parts) {
+    V sums[kTile / 2];
+    FirTile<kParts>(x + i, taps, n, sums);
+    ORBS_UNROLL
+    for (int v = 0; v < kTile / 2; ++v) sums[v].Store(y + i + static_cast<size_t>(v) * kLanes);
+    i += kTile / 2 * kLanes;
+  }
+  for (; i + kLanes <= parts; i += kLanes) FirVector<kParts, V>(x + i, taps, n).Store(y + i);
+  if (i == parts) return;
+  if (parts >= kLanes) {
+    FirVector<kParts, V>(x + parts - kLanes, taps, n).Store(y + parts - kLanes);
+    return;
+  }
+  Part few[kLanes];
+  FirVector<kParts, V>(x, taps, n).Store(few);
+  std::memcpy(y, few, parts * sizeof(Part));
+}
+
+#else
+
+template <class Tap>
+void FirSums(const Tap* src, const Tap* tapArray, Orb32s tapCount, Tap* dst, size_t count) {
+  using Part = PartOf<Tap>;
+  constexpr int kParts = PartsOf<Tap>::kCount;
+  for (size_t i = 0; i < count; ++i) {
+    const Part* x = Parts(src + i);
+    const Part* taps = Parts(tapArray);
+    Wide<Part> re = 0;
+    Wide<Part> im = 0;
+    for (Orb32s k = 0; k < tapCount; ++k, x += kParts, taps += kParts) {
+      const Wide<Part> h = taps[0];
+      if constexpr (kParts == 1) {
+        re += h * x[0];
+      } else {
+        re += h * x[0] - Wide<Part>(taps[1]) * x[1];
+        im += h * x[1] + Wide<Part>(taps[1]) * x[0];
+      }
+    }
+    Parts(dst + i)[0] = static_cast<Part>(re);
+    if constexpr (kParts == 2) Parts(dst + i)[1] = static_cast<Part>(im);
+  }
+}
+
+#endif
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif
