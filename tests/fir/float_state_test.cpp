@@ -20,8 +20,8 @@ TEST_P(FirStateTest, SizesByVariant) {
   };
   const Row rows[] = {
       {legacy90orbsFIRGetStateSize_32f, 1, 16576, 16640, 16704, 17840},
-      {legacy90orbsFIRGetStateSize32f_16s, 63, 17568, 18592, 19616, 21872},
-      {legacy90orbsFIRGetStateSize_32fc, 15, 33440, 34976, 34976, 36000},
+      {legacy90orbsFIRGetStateSize32f_16s, 63, 17568, 18592, 19680, 23760},
+      {legacy90orbsFIRGetStateSize_32fc, 15, 33440, 35072, 35072, 36096},
       {legacy90orbsFIRGetStateSize_64f, 31, 34016, 34528, 34784, 36320},
       {legacy90orbsFIRGetStateSize_64fc, 15, 66768, 67280, 67280, 69840},
       {legacy90orbsFIRGetStateSize_32s, 1000, 64943, 80943, 80943, 97967},
