@@ -15,6 +15,8 @@ set(ORBS_VARIANT_SOURCES
     fir/block.cpp
     fir/float_access.cpp
     fir/float_init.cpp
+    fir/integer.cpp
+    fir/integer_state.cpp
     fir/one.cpp
     gen/companding.cpp
     transform/fft_codelets.cpp

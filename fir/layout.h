@@ -74,24 +74,12 @@ template <class Part>
 inline constexpr int kFirLanes = VectorOf<Part>::kLanes;
 #else
 template <class Part>
-inline constexpr int kFirLanes = 2;
+inline constexpr int kFirLanes = 1;
 #endif
 
 // Elements of a vector.
 template <class Tap>
-inline constexpr int kFirElements = kFirLanes<PartOf<Tap>> / PartsOf<Tap>::kCount;
-
-// Elements of the block buffer. The vector variants give up some of the 4096 for the room behind the delay
-// line that their loads of whole vectors need.
-inline constexpr Orb32s kFirBlock = kIsPx ? 4096 : 4032;
-
-// The first samples of a block enter the delay line behind the n that stand there; this many fit at any
-// delayIndex. It is more than a vector beyond n, so that a rest that is read from the caller's array never
-// has less than a vector of outputs.
-template <class Tap>
-constexpr int64_t FirDelayRoom(int64_t n) {
-  return kIsPx ? ((n + 3) & ~3) + PartsOf<Tap>::kCount % 2 : n + 2 * kFirElements<Tap>;
-}
+inline constexpr int kFirElements = kIsPx ? 1 : kFirLanes<PartOf<Tap>> / PartsOf<Tap>::kCount;
 
 struct FirLayout {
   BlockLayout block{0, 1};

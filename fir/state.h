@@ -38,7 +38,7 @@ struct FIRIntState {
   Orb32s tapCount;
   Orb32s tapsFactor;
   Orb32s delayIndex;
-  orbs::Offset<Orb16s> taps16;  // what the kernels multiply with
+  orbs::Offset<Orb16s> taps16;  // vector variants: what the kernels multiply with, see integer_kernels.h
   orbs::Offset<void> blockBuf;
   Orb32s owned;
 };
@@ -103,6 +103,18 @@ ORBS_FIR_KIND(Fir64fc_32sc, Orb64fc, Orb32sc, 0x46493232)
 ORBS_FIR_KIND(Fir64f_16s, Orb64f, Orb16s, 0x46493235)
 ORBS_FIR_KIND(Fir64fc_16sc, Orb64fc, Orb16sc, 0x46493236)
 #undef ORBS_FIR_KIND
+
+// A kind of integer state.
+template <class TapType, class DataType, Orb32s id>
+struct FirIntKind {
+  using Tap = TapType;
+  using Data = DataType;
+  static constexpr int kParts = PartsOf<Data>::kCount;
+  static constexpr Orb32s kId = id;
+};
+using Fir16s = FirIntKind<Orb16s, Orb16s, 0x46493239>;
+using Fir32s_16s = FirIntKind<Orb32s, Orb16s, 0x46493039>;
+using Fir32sc_16sc = FirIntKind<Orb32sc, Orb16sc, 0x46493130>;
 
 }  // namespace orbs::ORBS_VARIANT
 

@@ -45,6 +45,23 @@ inline constexpr Orb32s kFftFromSamples = kComplex ? 256 : 512;
 // In place, the path of a chunk is chosen by what is left behind it.
 inline constexpr Orb32s kInPlaceChunk = kIsAvx ? 4224 : 4096;
 
+// ---- Scratch ----
+
+// Elements of the block buffer. The vector variants give up some of the 4096 for the room behind the delay
+// line that their loads of whole vectors need.
+inline constexpr Orb32s kFirBlock = kIsPx ? 4096 : 4000;
+
+// Samples at a time on their way through it.
+inline constexpr Orb32s kFirChunk = 1024;
+
+// The first samples of a block enter the delay line behind the n that stand there; this many fit at any
+// delayIndex. With `vector` outputs made at a time it is that much more than the outputs that come from
+// there, so that the rest, which is read from the caller's array, never has less than a vector of outputs.
+template <int vector>
+constexpr int64_t FirDelayRoom(int64_t n) {
+  return kIsPx ? n + 4 : n + 2 * vector;
+}
+
 // ---- Sizes of float states, for n taps, without the parts of the FFT path ----
 
 template <class Tap>
