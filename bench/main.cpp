@@ -16,9 +16,11 @@ namespace {
 
 constexpr const char* kUsage =
     "usage: orbs90lgc_bench [options] [FILTER]\n"
-    "  FILTER            a regular expression: measure the functions whose name/elements it matches\n"
+    "  FILTER            a regular expression, in any case: measure the functions whose name/elements it "
+    "matches\n"
     "  --variant=NAME    px, w7, v8, s8, p8, g9 or h9; the default is what the library selects\n"
     "  --markdown        print the table in Markdown\n"
+    "  --summary         print the means over the sizes of each function, and not the sizes\n"
     "  --list            print the names and measure nothing\n"
     "  --benchmark_...   an option of Google Benchmark; --benchmark_filter=FILTER is FILTER\n";
 
@@ -27,6 +29,7 @@ struct Options {
   std::string variant;
   bool markdown = false;
   bool list = false;
+  bool summary = false;
   bool help = false;
   std::vector<std::string> forGoogleBenchmark;
 };
@@ -61,6 +64,8 @@ bool ParseOptions(int argc, char** argv, Options* options) {
       options->forGoogleBenchmark.push_back(argument);
     } else if (argument == "--markdown") {
       options->markdown = true;
+    } else if (argument == "--summary") {
+      options->summary = true;
     } else if (argument == "--help" || argument == "-h") {
       options->help = true;
     } else if (argument.empty() || argument[0] == '-' || !setFilter(argument)) {
@@ -74,7 +79,7 @@ int Run(const char* program, const Options& options) {
   using namespace orbs::bench;
   std::regex filter;
   try {
-    filter.assign(options.filter);
+    filter.assign(options.filter, std::regex::ECMAScript | std::regex::icase);
   } catch (const std::regex_error&) {
     return Fail("not a regular expression: '" + options.filter + "'");
   }
@@ -88,7 +93,8 @@ int Run(const char* program, const Options& options) {
   orbsPinVariant(index);
 
   if (!InitializeMeasuring(program, options.forGoogleBenchmark)) return 1;
-  const Report report(options.markdown ? Report::Format::kMarkdown : Report::Format::kText, variant);
+  Report report(options.markdown ? Report::Format::kMarkdown : Report::Format::kText, variant,
+                options.summary);
   bool isFirst = true;
   for (const DeclaredComparison& declared : DeclaredComparisons()) {
     const std::string name = declared.name + "/" + std::to_string(declared.size);
@@ -97,10 +103,11 @@ int Run(const char* program, const Options& options) {
       std::puts(name.c_str());
     } else {
       if (isFirst) report.PrintHead(selected);
-      report.PrintLine(declared, Measure(declared));
+      report.Add(declared, Measure(declared));
     }
     isFirst = false;
   }
+  if (options.summary) report.PrintSummary();
   return isFirst ? Fail("nothing matches '" + options.filter + "'") : 0;
 }
 

@@ -1,10 +1,13 @@
 #include "bench/report.h"
 
+#include <fftw3.h>
 #include <spandsp/version.h>
 #include <unistd.h>
 #include <volk/constants.h>
 #include <volk/volk.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <fstream>
 
@@ -54,10 +57,15 @@ const Report::Column Report::kColumns[] = {
     {"function", -30}, {"variant", -7}, {"elements", 9},    {"ns/element", 10}, {"rate", 10},
     {"of memcpy", 9},  {"ratio", 6},    {"best peer", -18}, {"ns/element", 10}, {"other peers", -1}};
 
-void Report::PrintRow(const std::string* cells) const {
+const Report::Column Report::kSummaryColumns[] = {{"function", -34}, {"variant", -7},        {"peer", -14},
+                                                  {"sizes", 17},     {"geometric mean", 14}, {"lowest", 6},
+                                                  {"at", 9}};
+
+void Report::PrintRow(const Column* columns, const std::string* cells, size_t count) const {
   std::string row;
-  for (const Column& column : kColumns) {
-    const std::string& cell = *cells++;
+  for (size_t i = 0; i < count; ++i) {
+    const Column& column = columns[i];
+    const std::string& cell = cells[i];
     if (format_ == Format::kMarkdown) {
       row += "| " + cell + " ";
       continue;
@@ -76,19 +84,55 @@ void Report::PrintRow(const std::string* cells) const {
   std::fflush(stdout);
 }
 
-void Report::PrintHead(const std::string& selected) const {
-  std::printf("%s, %ld cores%s; the library selects %s. GCC %s, VOLK %s (%s), spandsp %s.\n\n",
-              ProcessorName().c_str(), sysconf(_SC_NPROCESSORS_ONLN), CacheSizes().c_str(), selected.c_str(),
-              __VERSION__, volk_version(), volk_get_machine(), SPANDSP_RELEASE_DATETIME_STRING);
-
-  std::string titles[std::size(kColumns)];
-  std::string rules[std::size(kColumns)];
-  for (size_t i = 0; i < std::size(kColumns); ++i) {
-    titles[i] = kColumns[i].title;
-    rules[i] = kColumns[i].width < 0 ? "---" : "--:";
+void Report::PrintTitles(const Column* columns, size_t count) const {
+  std::vector<std::string> titles;
+  std::vector<std::string> rules;
+  for (size_t i = 0; i < count; ++i) {
+    titles.push_back(columns[i].title);
+    rules.push_back(columns[i].width < 0 ? "---" : "--:");
   }
-  PrintRow(titles);
-  if (format_ == Format::kMarkdown) PrintRow(rules);
+  PrintRow(columns, titles.data(), count);
+  if (format_ == Format::kMarkdown) PrintRow(columns, rules.data(), count);
+}
+
+void Report::Add(const DeclaredComparison& declared, const Measurement& measured) {
+  if (!summary_) {
+    PrintLine(declared, measured);
+    return;
+  }
+  for (const MeasuredPeer& peer : measured.peers) {
+    auto kept = std::find_if(kept_.begin(), kept_.end(), [&](const Kept& k) {
+      return k.function == declared.name && k.peer == peer.name;
+    });
+    if (kept == kept_.end()) kept = kept_.insert(kept_.end(), Kept{declared.name, peer.name, {}});
+    kept->ratios.emplace_back(peer.nanoseconds / measured.ours, declared.size);
+  }
+}
+
+void Report::PrintSummary() const {
+  PrintTitles(kSummaryColumns, std::size(kSummaryColumns));
+  for (const Kept& kept : kept_) {
+    double logarithms = 0;
+    for (const auto& ratio : kept.ratios) logarithms += std::log(ratio.first);
+    const auto lowest = *std::min_element(kept.ratios.begin(), kept.ratios.end());
+    const std::string cells[std::size(kSummaryColumns)] = {
+        kept.function,
+        variant_,
+        kept.peer,
+        std::to_string(kept.ratios.front().second) + " to " + std::to_string(kept.ratios.back().second),
+        Formatted("%.2f", std::exp(logarithms / static_cast<double>(kept.ratios.size()))),
+        Formatted("%.2f", lowest.first),
+        std::to_string(lowest.second)};
+    PrintRow(kSummaryColumns, cells, std::size(kSummaryColumns));
+  }
+}
+
+void Report::PrintHead(const std::string& selected) const {
+  std::printf("%s, %ld cores%s; the library selects %s. GCC %s, VOLK %s (%s), spandsp %s, %s.\n\n",
+              ProcessorName().c_str(), sysconf(_SC_NPROCESSORS_ONLN), CacheSizes().c_str(), selected.c_str(),
+              __VERSION__, volk_version(), volk_get_machine(), SPANDSP_RELEASE_DATETIME_STRING, fftw_version);
+
+  if (!summary_) PrintTitles(kColumns, std::size(kColumns));
 }
 
 void Report::PrintLine(const DeclaredComparison& declared, const Measurement& measured) const {
@@ -111,7 +155,7 @@ void Report::PrintLine(const DeclaredComparison& declared, const Measurement& me
     cells[9] +=
         measured.peers[i].name + " " + Formatted("%.2f", measured.peers[i].nanoseconds / measured.ours);
   }
-  PrintRow(cells);
+  PrintRow(kColumns, cells, std::size(kColumns));
 }
 
 }  // namespace orbs::bench
