@@ -10,12 +10,14 @@
 namespace orbs::ORBS_VARIANT {
 
 // Enough independent sums to hide the latency of two units; the rest of the 16 registers holds the factors.
+// Every loop over them is unrolled, or they would live in memory.
 inline constexpr int kPeakSums = 12;
 
 template <class T>
 void MultiplyAddPeak(double multiplyAdds, T* result) {
   using V = VectorOf<T>;
   V sums[kPeakSums];
+  ORBS_UNROLL
   for (int i = 0; i < kPeakSums; ++i) sums[i] = V::All(static_cast<T>(i));
   const V a = V::All(result[0]);
   const V b = V::All(result[1]);
@@ -25,6 +27,7 @@ void MultiplyAddPeak(double multiplyAdds, T* result) {
     for (int i = 0; i < kPeakSums; ++i) sums[i] = MulAdd(a, b, sums[i]);
   }
   V total = sums[0];
+  ORBS_UNROLL
   for (int i = 1; i < kPeakSums; ++i) total = total + sums[i];
   T lanes[V::kLanes];
   total.Store(lanes);
@@ -35,6 +38,7 @@ void MultiplyAddPeak(double multiplyAdds, T* result) {
 // all.
 inline void MultiplyAddPeak(double multiplyAdds, Orb16s* result) {
   N32 sums[kPeakSums];
+  ORBS_UNROLL
   for (int i = 0; i < kPeakSums; ++i) sums[i] = N32::All(i);
   const I16 a = I16::All(result[0]);
   const auto rounds = static_cast<int64_t>(multiplyAdds / (kPeakSums * I16::kLanes)) + 1;
@@ -43,6 +47,7 @@ inline void MultiplyAddPeak(double multiplyAdds, Orb16s* result) {
     for (int i = 0; i < kPeakSums; ++i) sums[i] = sums[i] + MulAddPairs(a, As16(sums[i]));
   }
   N32 total = sums[0];
+  ORBS_UNROLL
   for (int i = 1; i < kPeakSums; ++i) total = total + sums[i];
   Orb32s lanes[N32::kLanes];
   total.Store(lanes);
