@@ -94,7 +94,12 @@ ORBS_INLINE void FirTile(const Part* x, const Part* taps, size_t n, V (&y)[kVect
     x += (kShared - 1) * V::kLanes;
     taps += (kShared - 1) * V::kLanes;
   }
-  for (; n > 0; --n, x += kParts, taps += kParts) sums.template Add<1>(x, taps);
+  size_t singles = n;
+  if (n > kElements) {
+    singles = 2 * kElements - n;
+    for (; n > kElements; --n, x += kParts, taps += kParts) sums.template Add<kShared>(x, taps);
+  }
+  for (; singles > 0; --singles, x += kParts, taps += kParts) sums.template Add<1>(x, taps);
   ORBS_UNROLL
   for (int v = 0; v < kVectors; ++v) y[v] = sums.Output(v);
 }
