@@ -13,6 +13,7 @@ set(ORBS_VARIANT_SOURCES
     frame/toolkit/integer.cpp
     frame/toolkit/real.cpp
     fir/block.cpp
+    fir/direct.cpp
     fir/float_access.cpp
     fir/float_init.cpp
     fir/integer.cpp

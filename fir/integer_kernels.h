@@ -197,23 +197,26 @@ ORBS_INLINE void FirIntOne(const Data* src, const Orb16s* taps, Orb32s n,
 
 #else
 
+// kTapStep -1 walks the taps backward, from the last one given.
+
 // The low 32 bits of a product: exact for a tap of any width.
 ORBS_INLINE Orb32u LowProduct(Orb32s tap, Orb16s sample) {
   return static_cast<Orb32u>(tap) * static_cast<Orb32u>(Orb32s{sample});
 }
 
-template <class Tap>
+template <int kTapStep = 1, class Tap>
 ORBS_INLINE void FirIntOne(const Orb16s* x, const Tap* taps, Orb32s n, Orb32s (&sums)[1]) {
   Orb32u sum = 0;
-  for (Orb32s k = 0; k < n; ++k) sum += LowProduct(taps[k], x[k]);
+  for (Orb32s k = 0; k < n; ++k, taps += kTapStep) sum += LowProduct(*taps, x[k]);
   sums[0] = static_cast<Orb32s>(sum);
 }
+template <int kTapStep = 1>
 ORBS_INLINE void FirIntOne(const Orb16sc* x, const Orb32sc* taps, Orb32s n, Orb32s (&sums)[2]) {
   Orb32u re = 0;
   Orb32u im = 0;
-  for (Orb32s k = 0; k < n; ++k) {
-    re += LowProduct(taps[k].re, x[k].re) - LowProduct(taps[k].im, x[k].im);
-    im += LowProduct(taps[k].re, x[k].im) + LowProduct(taps[k].im, x[k].re);
+  for (Orb32s k = 0; k < n; ++k, taps += kTapStep) {
+    re += LowProduct(taps->re, x[k].re) - LowProduct(taps->im, x[k].im);
+    im += LowProduct(taps->re, x[k].im) + LowProduct(taps->im, x[k].re);
   }
   sums[0] = static_cast<Orb32s>(re);
   sums[1] = static_cast<Orb32s>(im);
