@@ -31,12 +31,13 @@ ORBS_INLINE void FirTile(const Part* x, const Part* taps, size_t n, V (&y)[kVect
   V b[kVectors];
   ORBS_UNROLL
   for (int v = 0; v < kVectors; ++v) a[v] = b[v] = V::Zero();
-  for (size_t k = 0; k < n; ++k, x += kParts, taps += kTapStep * kParts) {
-    const V re = V::All(taps[0]);
+  for (size_t k = 0; k < n; ++k, x += kParts) {
+    const Part* const tap = taps + static_cast<ptrdiff_t>(k) * kTapStep * kParts;
+    const V re = V::All(tap[0]);
     ORBS_UNROLL
     for (int v = 0; v < kVectors; ++v) a[v] = MulAdd(re, V::Load(x + v * V::kLanes), a[v]);
     if constexpr (kParts == 2) {
-      const V im = V::All(taps[1]);
+      const V im = V::All(tap[1]);
       ORBS_UNROLL
       for (int v = 0; v < kVectors; ++v) b[v] = MulAdd(im, V::Load(x + v * V::kLanes), b[v]);
     }

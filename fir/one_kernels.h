@@ -14,7 +14,8 @@ namespace orbs::ORBS_VARIANT {
 template <class V>
 struct LaneMasks {
   using Lane = typename V::Lane;
-  using Bits = std::conditional_t<sizeof(Lane) == 2, Orb16s, std::conditional_t<sizeof(Lane) == 4, Orb32s, Orb64s>>;
+  using Bits =
+      std::conditional_t<sizeof(Lane) == 2, Orb16s, std::conditional_t<sizeof(Lane) == 4, Orb32s, Orb64s>>;
   // Ones, zeros, ones.
   Bits bits[3 * V::kLanes] = {};
   constexpr LaneMasks() {
