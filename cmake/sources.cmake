@@ -14,6 +14,7 @@ set(ORBS_VARIANT_SOURCES
     frame/toolkit/real.cpp
     fir/block.cpp
     fir/direct.cpp
+    fir/direct_integer.cpp
     fir/float_access.cpp
     fir/float_init.cpp
     fir/integer.cpp

@@ -52,9 +52,9 @@ struct FirRing {
     const int64_t first = (i + count - kept) % n;
     const Data* const from = samples + (count - kept);
     const int64_t head = kept < n - first ? kept : n - first;
-    for (Data* half : {line, line + n}) {
-      Copy(from, half + first, head);
-      Copy(from + head, half, kept - head);
+    for (int64_t half = 0; half <= n; half += n) {
+      Copy(from, line + half + first, head);
+      Copy(from + head, line + half, kept - head);
     }
   }
 };

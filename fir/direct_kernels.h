@@ -56,8 +56,8 @@ ORBS_INLINE I16 Reversed(I16 a) {
 ORBS_INLINE N32 DupEven(N32 a) { return AsInt(DupEven(AsFloat(a))); }
 ORBS_INLINE N32 DupOdd(N32 a) { return AsInt(DupOdd(AsFloat(a))); }
 ORBS_INLINE N32 AddRotated(N32 a, N32 b) {
-  const auto swapped = SwapPairs(AsFloat(b));
-  const N32 evenLanes = ShiftRight(AsInt(EvenSigns(decltype(&swapped){})), 31);
+  auto swapped = SwapPairs(AsFloat(b));
+  const N32 evenLanes = ShiftRight(AsInt(EvenSigns(&swapped)), 31);
   // Minus x is the complement of x - 1.
   return a + ((AsInt(swapped) ^ evenLanes) - evenLanes);
 }
