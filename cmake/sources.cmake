@@ -13,6 +13,8 @@ set(ORBS_VARIANT_SOURCES
     frame/toolkit/integer.cpp
     frame/toolkit/real.cpp
     fir/block.cpp
+    fir/direct.cpp
+    fir/direct_integer.cpp
     fir/float_access.cpp
     fir/float_init.cpp
     fir/integer.cpp

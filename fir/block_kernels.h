@@ -4,6 +4,9 @@
 // kept in two parts, of h.re x and of h.im x, so that the swap of real and imaginary part is made once an
 // output and not once a term:
 //   y = a + (-b.im, b.re),   a = sum h.re x,   b = sum h.im x
+//
+// kTapStep is 1 where the taps are stored reversed, and -1 for taps in natural order, of which the last is
+// given.
 #ifndef ORBS_FIR_BLOCK_KERNELS_H
 #define ORBS_FIR_BLOCK_KERNELS_H
 
@@ -28,7 +31,7 @@ inline constexpr int kFirTileVectors = kParts == 1 ? 8 : 4;
 
 // The sums of a tile: kVectors vectors of outputs. A tile of half the size has them twice, to keep as many in
 // flight.
-template <int kParts, int kVectors, class V>
+template <int kParts, int kTapStep, int kVectors, class V>
 struct FirTileSums {
   using Part = typename V::Lane;
   static constexpr size_t kLanes = V::kLanes;
@@ -62,7 +65,7 @@ struct FirTileSums {
     V im[kShared];
     ORBS_UNROLL
     for (int s = 0; s < kShared; ++s) {
-      const Part* const tap = taps + static_cast<size_t>(s) * kLanes;
+      const Part* const tap = taps + s * kTapStep * static_cast<ptrdiff_t>(kLanes);
       re[s] = V::All(tap[0]);
       im[s] = kParts == 2 ? V::All(tap[kParts - 1]) : V::Zero();
     }
@@ -84,28 +87,29 @@ struct FirTileSums {
 // kVectors vectors of outputs from x on; stride between terms is one element, kParts parts. Loads of samples
 // cross cache lines half of the time and then count twice: with a load for each multiply-add they are the
 // limit, with one for two they are not.
-template <int kParts, int kVectors, class V, class Part>
+template <int kParts, int kTapStep, int kVectors, class V, class Part>
 ORBS_INLINE void FirTile(const Part* x, const Part* taps, size_t n, V (&y)[kVectors]) {
   constexpr size_t kShared = 2;
   constexpr size_t kElements = V::kLanes / kParts;
-  FirTileSums<kParts, kVectors, V> sums;
+  FirTileSums<kParts, kTapStep, kVectors, V> sums;
+  constexpr ptrdiff_t kStep = kTapStep * kParts;
   for (; n >= kShared * kElements; n -= kShared * kElements) {
-    for (size_t j = 0; j < kElements; ++j, x += kParts, taps += kParts) sums.template Add<kShared>(x, taps);
+    for (size_t j = 0; j < kElements; ++j, x += kParts, taps += kStep) sums.template Add<kShared>(x, taps);
     x += (kShared - 1) * V::kLanes;
-    taps += (kShared - 1) * V::kLanes;
+    taps += static_cast<ptrdiff_t>(kShared - 1) * kTapStep * V::kLanes;
   }
   size_t singles = n;
   if (n > kElements) {
     singles = 2 * kElements - n;
-    for (; n > kElements; --n, x += kParts, taps += kParts) sums.template Add<kShared>(x, taps);
+    for (; n > kElements; --n, x += kParts, taps += kStep) sums.template Add<kShared>(x, taps);
   }
-  for (; singles > 0; --singles, x += kParts, taps += kParts) sums.template Add<1>(x, taps);
+  for (; singles > 0; --singles, x += kParts, taps += kStep) sums.template Add<1>(x, taps);
   ORBS_UNROLL
   for (int v = 0; v < kVectors; ++v) y[v] = sums.Output(v);
 }
 
 // One vector of outputs leaves the multiply-adders waiting for each other: the terms take turns in four sums.
-template <int kParts, class V, class Part>
+template <int kParts, int kTapStep, class V, class Part>
 ORBS_INLINE V FirVector(const Part* x, const Part* taps, size_t n) {
   constexpr size_t kSums = 4;
   V a[kSums];
@@ -114,8 +118,9 @@ ORBS_INLINE V FirVector(const Part* x, const Part* taps, size_t n) {
   for (size_t j = 0; j < kSums; ++j) a[j] = b[j] = V::Zero();
   const auto add = [&](size_t j, size_t k) {
     const V samples = V::Load(x + k * kParts);
-    a[j] = MulAdd(V::All(taps[k * kParts]), samples, a[j]);
-    if constexpr (kParts == 2) b[j] = MulAdd(V::All(taps[k * kParts + 1]), samples, b[j]);
+    const Part* const tap = taps + static_cast<ptrdiff_t>(k) * kTapStep * kParts;
+    a[j] = MulAdd(V::All(tap[0]), samples, a[j]);
+    if constexpr (kParts == 2) b[j] = MulAdd(V::All(tap[1]), samples, b[j]);
   };
   size_t k = 0;
   for (; k + kSums <= n; k += kSums) {
@@ -128,7 +133,7 @@ ORBS_INLINE V FirVector(const Part* x, const Part* taps, size_t n) {
 }
 
 // `count` outputs. Reads whole vectors: where count is below a vector, up to a vector's end behind x[n-1].
-template <class Tap>
+template <int kTapStep = 1, class Tap>
 void FirSums(const Tap* src, const Tap* tapArray, Orb32s tapCount, Tap* dst, size_t count) {
   using Part = PartOf<Tap>;
   using V = VectorOf<Part>;
@@ -143,25 +148,25 @@ void FirSums(const Tap* src, const Tap* tapArray, Orb32s tapCount, Tap* dst, siz
   size_t i = 0;
   for (; i + kTile * kLanes <= parts; i += kTile * kLanes) {
     V sums[kTile];
-    FirTile<kParts>(x + i, taps, n, sums);
+    FirTile<kParts, kTapStep>(x + i, taps, n, sums);
     ORBS_UNROLL
     for (int v = 0; v < kTile; ++v) sums[v].Store(y + i + static_cast<size_t>(v) * kLanes);
   }
   if (i + kTile / 2 * kLanes <= parts) {
     V sums[kTile / 2];
-    FirTile<kParts>(x + i, taps, n, sums);
+    FirTile<kParts, kTapStep>(x + i, taps, n, sums);
     ORBS_UNROLL
     for (int v = 0; v < kTile / 2; ++v) sums[v].Store(y + i + static_cast<size_t>(v) * kLanes);
     i += kTile / 2 * kLanes;
   }
-  for (; i + kLanes <= parts; i += kLanes) FirVector<kParts, V>(x + i, taps, n).Store(y + i);
+  for (; i + kLanes <= parts; i += kLanes) FirVector<kParts, kTapStep, V>(x + i, taps, n).Store(y + i);
   if (i == parts) return;
   if (parts >= kLanes) {
-    FirVector<kParts, V>(x + parts - kLanes, taps, n).Store(y + parts - kLanes);
+    FirVector<kParts, kTapStep, V>(x + parts - kLanes, taps, n).Store(y + parts - kLanes);
     return;
   }
   Part few[kLanes];
-  FirVector<kParts, V>(x, taps, n).Store(few);
+  FirVector<kParts, kTapStep, V>(x, taps, n).Store(few);
   std::memcpy(y, few, parts * sizeof(Part));
 }
 

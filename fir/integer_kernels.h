@@ -102,13 +102,12 @@ ORBS_INLINE I16 PairToAll(const Orb16s* pair) {
 
 // ---- Blocks ----
 
-// kVectors vectors of outputs. Real: of each pair of taps, the products for the even outputs come from
-// samples at x, those for the odd ones from samples one further on. Complex: two tap pairs on the same
+// The sums of kVectors vectors of outputs. Real: of each pair of taps, the products for the even outputs come
+// from samples at x, those for the odd ones from samples one further on. Complex: two tap pairs on the same
 // samples.
 template <int kParts, int kVectors>
-ORBS_INLINE void FirIntTile(const Orb16s* x, const Orb16s* taps, int64_t n, int d, I16 (&y)[kVectors]) {
-  N32 a[kVectors];
-  N32 b[kVectors];
+ORBS_INLINE void FirIntTileSums(const Orb16s* x, const Orb16s* taps, int64_t n, N32 (&a)[kVectors],
+                                N32 (&b)[kVectors]) {
   ORBS_UNROLL
   for (int v = 0; v < kVectors; ++v) a[v] = b[v] = N32::Zero();
   const int64_t pairs = kParts == 1 ? (n + 1) / 2 : n;
@@ -124,6 +123,13 @@ ORBS_INLINE void FirIntTile(const Orb16s* x, const Orb16s* taps, int64_t n, int 
       b[v] = b[v] + MulAddPairs(other, kParts == 1 ? I16::Load(at + 1) : samples);
     }
   }
+}
+
+template <int kParts, int kVectors>
+ORBS_INLINE void FirIntTile(const Orb16s* x, const Orb16s* taps, int64_t n, int d, I16 (&y)[kVectors]) {
+  N32 a[kVectors];
+  N32 b[kVectors];
+  FirIntTileSums<kParts>(x, taps, n, a, b);
   ORBS_UNROLL
   for (int v = 0; v < kVectors; ++v) y[v] = DeliverSums(a[v], b[v], d);
 }
@@ -197,23 +203,27 @@ ORBS_INLINE void FirIntOne(const Data* src, const Orb16s* taps, Orb32s n,
 
 #else
 
+// kTapStep -1 walks the taps backward, from the last one given.
+
 // The low 32 bits of a product: exact for a tap of any width.
 ORBS_INLINE Orb32u LowProduct(Orb32s tap, Orb16s sample) {
   return static_cast<Orb32u>(tap) * static_cast<Orb32u>(Orb32s{sample});
 }
 
-template <class Tap>
+template <int kTapStep = 1, class Tap>
 ORBS_INLINE void FirIntOne(const Orb16s* x, const Tap* taps, Orb32s n, Orb32s (&sums)[1]) {
   Orb32u sum = 0;
-  for (Orb32s k = 0; k < n; ++k) sum += LowProduct(taps[k], x[k]);
+  for (Orb32s k = 0; k < n; ++k) sum += LowProduct(taps[int64_t{k} * kTapStep], x[k]);
   sums[0] = static_cast<Orb32s>(sum);
 }
+template <int kTapStep = 1>
 ORBS_INLINE void FirIntOne(const Orb16sc* x, const Orb32sc* taps, Orb32s n, Orb32s (&sums)[2]) {
   Orb32u re = 0;
   Orb32u im = 0;
   for (Orb32s k = 0; k < n; ++k) {
-    re += LowProduct(taps[k].re, x[k].re) - LowProduct(taps[k].im, x[k].im);
-    im += LowProduct(taps[k].re, x[k].im) + LowProduct(taps[k].im, x[k].re);
+    const Orb32sc tap = taps[int64_t{k} * kTapStep];
+    re += LowProduct(tap.re, x[k].re) - LowProduct(tap.im, x[k].im);
+    im += LowProduct(tap.re, x[k].im) + LowProduct(tap.im, x[k].re);
   }
   sums[0] = static_cast<Orb32s>(re);
   sums[1] = static_cast<Orb32s>(im);

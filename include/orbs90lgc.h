@@ -8,6 +8,7 @@
 #include "orbs90lgc/companding.h"
 #include "orbs90lgc/fft.h"
 #include "orbs90lgc/fir.h"
+#include "orbs90lgc/fir_direct.h"
 #include "orbs90lgc/fir_integer.h"
 #include "orbs90lgc/fir_state.h"
 #include "orbs90lgc/frame.h"

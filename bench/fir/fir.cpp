@@ -3,47 +3,16 @@
 #include <string>
 
 #include "bench/compare.h"
-#include "bench/fir/peak.h"
 #include "bench/fir/peers.h"
+#include "bench/fir/setup.h"
 #include "orbs90lgc.h"
 
 namespace orbs::ORBS_VARIANT {
 namespace {
 
-using bench::CompareAtSizes;
-using bench::Comparison;
-using bench::Random;
-using bench::Work;
-
-template <class T>
-T Element(Orb32s i) {
-  if constexpr (std::is_class_v<T>) {
-    return {static_cast<decltype(T::re)>(Random(2 * i)), static_cast<decltype(T::re)>(Random(2 * i + 1))};
-  } else if constexpr (std::is_integral_v<T>) {
-    return static_cast<T>(1000 * Random(i));
-  } else {
-    return static_cast<T>(Random(i));
-  }
-}
-
-// The peak is a peer: its ratio is the share of the peak that the filter reaches.
-template <class T>
-void AddPeak(Comparison& c, double multiplyAdds) {
-#if ORBS_VECTOR
-  T* const result = c.Array<T>(3, Element<T>);
-  c.Peer("peak", [=] { MultiplyAddPeak(multiplyAdds, result); });
-#else
-  (void)c, (void)multiplyAdds;
-#endif
-}
-
 template <class State, class Free>
 std::shared_ptr<State> Owned(State* state, Free release) {
   return {state, release};
-}
-
-std::string Name(const char* function, Orb32s tapCount) {
-  return std::string(function) + " " + std::to_string(tapCount) + " taps";
 }
 
 void CompareBlocks32f(Orb32s tapCount, std::initializer_list<Orb32s> sizes) {

@@ -43,6 +43,22 @@ Call LoopOf(const T* taps, Orb32s tapCount, const T* src, T* dst, Orb32s n, Deli
   };
 }
 
+Orb16s FromQ15(Orb32s sum) {
+  const Orb32s scaled = (sum + (1 << 14)) >> 15;
+  return static_cast<Orb16s>(scaled > 32767 ? 32767 : scaled < -32768 ? -32768 : scaled);
+}
+
+template <class Tap>
+Call RingStepOf(const Tap* taps, Orb32s tapCount, const Orb16s* src, Orb16s* dst, Orb16s* ring) {
+  return [=, index = 0]() mutable {
+    ring[index] = ring[index + tapCount] = *src;
+    index = index + 1 == tapCount ? 0 : index + 1;
+    Orb32s sum = 0;
+    for (Orb32s k = 0; k < tapCount; ++k) sum += taps[tapCount - 1 - k] * ring[index + k];
+    *dst = FromQ15(sum);
+  };
+}
+
 }  // namespace
 
 Call LiquidBlock(const Orb32f* taps, Orb32s tapCount, const Orb32f* src, Orb32f* dst, Orb32s n) {
@@ -98,10 +114,14 @@ Call Loop(const Orb64f* taps, Orb32s tapCount, const Orb64f* src, Orb64f* dst, O
   return LoopOf<Orb64f, Orb64f>(taps, tapCount, src, dst, n, [](Orb64f sum) { return sum; });
 }
 Call Loop(const Orb16s* taps, Orb32s tapCount, const Orb16s* src, Orb16s* dst, Orb32s n) {
-  return LoopOf<Orb16s, Orb32s>(taps, tapCount, src, dst, n, [](Orb32s sum) {
-    const Orb32s scaled = (sum + (1 << 14)) >> 15;
-    return static_cast<Orb16s>(scaled > 32767 ? 32767 : scaled < -32768 ? -32768 : scaled);
-  });
+  return LoopOf<Orb16s, Orb32s>(taps, tapCount, src, dst, n, FromQ15);
+}
+
+Call RingStep(const Orb16s* taps, Orb32s tapCount, const Orb16s* src, Orb16s* dst, Orb16s* ring) {
+  return RingStepOf(taps, tapCount, src, dst, ring);
+}
+Call RingStep(const Orb32s* taps, Orb32s tapCount, const Orb16s* src, Orb16s* dst, Orb16s* ring) {
+  return RingStepOf(taps, tapCount, src, dst, ring);
 }
 
 }  // namespace orbs::bench::native

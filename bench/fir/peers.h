@@ -26,6 +26,10 @@ Call Loop(const Orb32f* taps, Orb32s tapCount, const Orb32f* src, Orb32f* dst, O
 Call Loop(const Orb64f* taps, Orb32s tapCount, const Orb64f* src, Orb64f* dst, Orb32s n);
 Call Loop(const Orb16s* taps, Orb32s tapCount, const Orb16s* src, Orb16s* dst, Orb32s n);
 
+// One sample through a doubled ring of 2 tapCount elements, the formula in a loop over its newest samples.
+Call RingStep(const Orb16s* taps, Orb32s tapCount, const Orb16s* src, Orb16s* dst, Orb16s* ring);
+Call RingStep(const Orb32s* taps, Orb32s tapCount, const Orb16s* src, Orb16s* dst, Orb16s* ring);
+
 }  // namespace orbs::bench::native
 
 #endif
