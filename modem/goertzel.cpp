@@ -16,10 +16,10 @@ ORBS_INLINE OrbStatus CheckFrequencies(const Real (&frequencies)[kCount]) {
 }
 
 template <class Real, int kCount>
-struct Rotations {
+struct Steps {
   Rotation r[kCount];
 
-  explicit ORBS_INLINE Rotations(const Real (&frequencies)[kCount]) {
+  explicit ORBS_INLINE Steps(const Real (&frequencies)[kCount]) {
     for (int k = 0; k < kCount; ++k) r[k] = RotationOf(static_cast<Orb64f>(frequencies[k]));
   }
 };
@@ -45,7 +45,7 @@ ORBS_INLINE OrbStatus GoertzTwo(const Sample* src, Orb32s len, Orb32fc* result, 
   const Orb32f frequencies[2] = {rFreqs[0], rFreqs[1]};
   ORBS_RETURN_IF_BAD(CheckFrequencies(frequencies));
   FourierSum sums[2];
-  SumFourier(src, len, Rotations(frequencies).r, sums);
+  SumFourier(src, len, Steps(frequencies).r, sums);
   for (int k = 0; k < 2; ++k) {
     result[k] = {static_cast<Orb32f>(sums[k].re), static_cast<Orb32f>(sums[k].im)};
   }
@@ -58,7 +58,7 @@ ORBS_INLINE OrbStatus GoertzScaled(const Orb16sc* src, Orb32s len, Orb16sc* resu
                                    const Orb32f (&frequencies)[kCount], Orb32s scaleFactor) {
   ORBS_RETURN_IF_BAD(CheckFrequencies(frequencies));
   FourierSum sums[kCount];
-  SumFourier(src, len, Rotations(frequencies).r, sums);
+  SumFourier(src, len, Steps(frequencies).r, sums);
   const auto factor = InversePowerOfTwo<Wide<Orb64f>>(scaleFactor);
   for (int k = 0; k < kCount; ++k) {
     result[k] = {RoundAndSaturate(factor(sums[k].re)), RoundAndSaturate(factor(sums[k].im))};
@@ -71,7 +71,7 @@ ORBS_INLINE OrbStatus GoertzTwoTurned(const Sample* src, Orb32s len, Orb64fc* re
   ORBS_RETURN_IF_BAD(CheckArrays(len, src, result, rFreqs));
   const Orb64f frequencies[2] = {rFreqs[0], rFreqs[1]};
   ORBS_RETURN_IF_BAD(CheckFrequencies(frequencies));
-  SumTurned(src, len, Rotations(frequencies).r, result);
+  SumTurned(src, len, Steps(frequencies).r, result);
   return StatusOk;
 }
 

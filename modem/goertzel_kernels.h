@@ -12,6 +12,9 @@
 
 #include <math.h>
 
+#include <type_traits>
+#include <utility>
+
 #include "frame/scaling.h"
 #include "frame/variant.h"
 
@@ -137,25 +140,61 @@ struct FourierLayout {
   using Sums = PartialSums<Sample>;
   static constexpr int kVectors = (Sums::kParts == 1 ? 4 : 8) / kCount;
   static constexpr int kSamples = kVectors * Sums::kLanes;  // a step
-  static constexpr int kElements = kVectors * F32::kLanes;  // parts of samples
-  static constexpr int kDoublings = Log2(kSamples);
+  static constexpr int kElements = kVectors * F32::kLanes;  // the same in parts of samples
 };
 
-// A block is summed in single precision, in which a rotation is off by up to 2^-25: after the 256 to 2048
-// steps of 4096 samples by a few 1e-6 in the first place, where it weighs most. Sums of blocks are put
-// together in double precision.
-inline constexpr int kFourierBlockLog2 = 12;
+// A block is summed in single precision, in which a rotation is off by up to 2^-25 in each part: after the 32
+// to 256 steps of 1024 samples, by up to a few 1e-6 where it has been applied most often. Sums of blocks are
+// put together in double precision.
+inline constexpr int kFourierBlockLog2 = 10;
 inline constexpr Orb32s kFourierBlock = 1 << kFourierBlockLog2;
 
-// rotations[k][i] is that of 2^i samples of frequency k.
+// The rotation of 2^i samples in place i.
+struct Rotations {
+  Rotation ofLog2[kFourierBlockLog2 + 1];
+};
+
+// Calls operation with 0 ... kCount - 1 as constants: an array that is indexed by them lives in registers.
+// (The compiler does not unroll a loop that also divides its index.)
+template <class Operation, int... kIndex>
+ORBS_INLINE void ForEachOf(std::integer_sequence<int, kIndex...>, Operation operation) {
+  (operation(std::integral_constant<int, kIndex>{}), ...);
+}
+template <int kCount, class Operation>
+ORBS_INLINE void ForEachIndex(Operation operation) {
+  ForEachOf(std::make_integer_sequence<int, kCount>{}, operation);
+}
+
+// The upper half of the vectors or lanes, turned by its distance, onto the lower half, and so on down to one.
+template <int kVectors, class Sums>
+ORBS_INLINE void FoldVectors(Sums* sums, int kCount, const Rotations& rotations) {
+  if constexpr (kVectors > 1) {
+    constexpr int kHalf = kVectors / 2;
+    const typename Sums::Step step(rotations.ofLog2[Log2(kHalf * Sums::kLanes)]);
+    ORBS_UNROLL
+    for (int v = 0; v < kHalf; ++v) {
+      sums[v * kCount] = sums[(v + kHalf) * kCount].Advanced(step, sums[v * kCount]);
+    }
+    FoldVectors<kHalf>(sums, kCount, rotations);
+  }
+}
+template <int kLanes>
+ORBS_INLINE void FoldLanes(FourierSum* lanes, const Rotations& rotations) {
+  if constexpr (kLanes > 1) {
+    constexpr int kHalf = kLanes / 2;
+    const Rotation rotation = rotations.ofLog2[Log2(kHalf)];
+    ORBS_UNROLL
+    for (int i = 0; i < kHalf; ++i) lanes[i] = Advance(lanes[i + kHalf], rotation, lanes[i]);
+    FoldLanes<kHalf>(lanes, rotations);
+  }
+}
+
 template <int kCount, class Sample>
-void SumFourierBlock(const Sample* src, Orb32s len,
-                     const Rotation (&rotations)[kCount][kFourierBlockLog2 + 1],
+void SumFourierBlock(const Sample* src, Orb32s len, const Rotations (&rotations)[kCount],
                      FourierSum (&results)[kCount]) {
   using Layout = FourierLayout<Sample, kCount>;
   using Sums = typename Layout::Sums;
   using Step = typename Sums::Step;
-  constexpr int kVectors = Layout::kVectors;
   constexpr int kElements = Layout::kElements;
   const auto* const first = reinterpret_cast<const SamplePart<Sample>*>(src);
 
@@ -163,62 +202,44 @@ void SumFourierBlock(const Sample* src, Orb32s len,
   const Orb32s elements = len * Sums::kParts;
   const Orb32s rest = (elements - 1) % kElements + 1;
   const auto* x = first + (elements - rest);
-  Sums sums[kCount][kVectors];
-  {
-    SamplePart<Sample> last[kElements] = {};
-    if (rest == kElements) {
-      std::memcpy(last, x, sizeof last);
-    } else {
-      CopyFew<sizeof last / 2>(last, x, static_cast<size_t>(rest));
-    }
-    ORBS_UNROLL
-    for (int v = 0; v < kVectors; ++v) {
-      const Sums sum = Sums::Of(LoadFloats(last + v * F32::kLanes));
-      ORBS_UNROLL
-      for (int k = 0; k < kCount; ++k) sums[k][v] = sum;
-    }
+  SamplePart<Sample> last[kElements] = {};
+  if (rest == kElements) {
+    std::memcpy(last, x, sizeof last);
+  } else {
+    CopyFew<sizeof last / 2>(last, x, static_cast<size_t>(rest));
   }
-  const Step steps[2] = {Step(rotations[0][Layout::kDoublings]),
-                         Step(rotations[kCount - 1][Layout::kDoublings])};
+  // Vector by vector, the frequencies of each side by side.
+  constexpr int kSums = Layout::kVectors * kCount;
+  Sums sums[kSums];
+  ForEachIndex<kSums>([&](auto i) { sums[i] = Sums::Of(LoadFloats(last + i / kCount * F32::kLanes)); });
+  const Step firstStep(rotations[0].ofLog2[Log2(Layout::kSamples)]);
+  const Step otherStep(rotations[kCount - 1].ofLog2[Log2(Layout::kSamples)]);
   while (x != first) {
     x -= kElements;
-    ORBS_UNROLL
-    for (int v = 0; v < kVectors; ++v) {
-      const F32 samples = LoadFloats(x + v * F32::kLanes);
-      ORBS_UNROLL
-      for (int k = 0; k < kCount; ++k) sums[k][v] = sums[k][v].Advanced(steps[k], samples);
-    }
+    ForEachIndex<kSums>([&](auto i) {
+      const F32 samples = LoadFloats(x + i / kCount * F32::kLanes);
+      sums[i] = sums[i].Advanced(i % kCount == 0 ? firstStep : otherStep, samples);
+    });
   }
 
-  ORBS_UNROLL
-  for (int k = 0; k < kCount; ++k) {
-    int doublings = Layout::kDoublings;
-    ORBS_UNROLL
-    for (int half = kVectors / 2; half > 0; half /= 2) {
-      const Step step(rotations[k][--doublings]);
-      ORBS_UNROLL
-      for (int v = 0; v < half; ++v) sums[k][v] = sums[k][v + half].Advanced(step, sums[k][v]);
-    }
+  ForEachIndex<kCount>([&](auto k) {
+    FoldVectors<Layout::kVectors>(sums + k, kCount, rotations[k]);
     FourierSum lanes[Sums::kLanes];
-    sums[k][0].Store(lanes);
-    ORBS_UNROLL
-    for (int half = Sums::kLanes / 2; half > 0; half /= 2) {
-      const Rotation rotation = rotations[k][--doublings];
-      ORBS_UNROLL
-      for (int i = 0; i < half; ++i) lanes[i] = Advance(lanes[i + half], rotation, lanes[i]);
-    }
+    sums[k].Store(lanes);
+    FoldLanes<Sums::kLanes>(lanes, rotations[k]);
     results[k] = lanes[0];
-  }
+  });
 }
 
 template <int kCount, class Sample>
 void SumFourier(const Sample* src, Orb32s len, const Rotation (&steps)[kCount],
                 FourierSum (&results)[kCount]) {
-  Rotation rotations[kCount][kFourierBlockLog2 + 1];
-  const int needed = len > kFourierBlock ? kFourierBlockLog2 : FourierLayout<Sample, kCount>::kDoublings;
+  Rotations rotations[kCount];
+  const int needed = len > kFourierBlock ? kFourierBlockLog2 : Log2(FourierLayout<Sample, kCount>::kSamples);
   for (int k = 0; k < kCount; ++k) {
-    rotations[k][0] = steps[k];
-    for (int i = 0; i < needed; ++i) rotations[k][i + 1] = Doubled(rotations[k][i]);
+    Rotation(&ofLog2)[kFourierBlockLog2 + 1] = rotations[k].ofLog2;
+    ofLog2[0] = steps[k];
+    for (int i = 0; i < needed; ++i) ofLog2[i + 1] = Doubled(ofLog2[i]);
   }
   Orb32s begin = (len - 1) / kFourierBlock * kFourierBlock;
   SumFourierBlock(src + begin, len - begin, rotations, results);
@@ -227,7 +248,7 @@ void SumFourier(const Sample* src, Orb32s len, const Rotation (&steps)[kCount],
     FourierSum sums[kCount];
     SumFourierBlock(src + begin, kFourierBlock, rotations, sums);
     for (int k = 0; k < kCount; ++k) {
-      results[k] = Advance(results[k], rotations[k][kFourierBlockLog2], sums[k]);
+      results[k] = Advance(results[k], rotations[k].ofLog2[kFourierBlockLog2], sums[k]);
     }
   }
 }
