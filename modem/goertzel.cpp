@@ -59,9 +59,10 @@ ORBS_INLINE OrbStatus GoertzScaled(const Orb16sc* src, Orb32s len, Orb16sc* resu
   ORBS_RETURN_IF_BAD(CheckFrequencies(frequencies));
   FourierSum sums[kCount];
   SumFourier(src, len, Steps(frequencies).r, sums);
-  const auto factor = InversePowerOfTwo<Wide<Orb64f>>(scaleFactor);
+  // Where the scale factor is limited here, whatever is not 0 has long become 0 or saturated.
+  const Wide<Orb64f> factor = InversePowerOfTwo_16s64f(scaleFactor);
   for (int k = 0; k < kCount; ++k) {
-    result[k] = {RoundAndSaturate(factor(sums[k].re)), RoundAndSaturate(factor(sums[k].im))};
+    result[k] = {RoundAndSaturate(factor * sums[k].re), RoundAndSaturate(factor * sums[k].im)};
   }
   return StatusOk;
 }

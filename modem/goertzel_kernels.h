@@ -13,7 +13,6 @@
 #include <math.h>
 
 #include <type_traits>
-#include <utility>
 
 #include "frame/scaling.h"
 #include "frame/variant.h"
@@ -21,6 +20,7 @@
 #if ORBS_VECTOR
 #include "frame/blocks.h"
 #include "frame/simd.h"
+#include "frame/unrolled.h"
 #endif
 
 namespace orbs::ORBS_VARIANT {
@@ -154,17 +154,6 @@ struct Rotations {
   Rotation ofLog2[kFourierBlockLog2 + 1];
 };
 
-// Calls operation with 0 ... kCount - 1 as constants: an array that is indexed by them lives in registers.
-// (The compiler does not unroll a loop that also divides its index.)
-template <class Operation, int... kIndex>
-ORBS_INLINE void ForEachOf(std::integer_sequence<int, kIndex...>, Operation operation) {
-  (operation(std::integral_constant<int, kIndex>{}), ...);
-}
-template <int kCount, class Operation>
-ORBS_INLINE void ForEachIndex(Operation operation) {
-  ForEachOf(std::make_integer_sequence<int, kCount>{}, operation);
-}
-
 // The upper half of the vectors or lanes, turned by its distance, onto the lower half, and so on down to one.
 template <int kVectors, class Sums>
 ORBS_INLINE void FoldVectors(Sums* sums, int kCount, const Rotations& rotations) {
@@ -211,18 +200,18 @@ void SumFourierBlock(const Sample* src, Orb32s len, const Rotations (&rotations)
   // Vector by vector, the frequencies of each side by side.
   constexpr int kSums = Layout::kVectors * kCount;
   Sums sums[kSums];
-  ForEachIndex<kSums>([&](auto i) { sums[i] = Sums::Of(LoadFloats(last + i / kCount * F32::kLanes)); });
+  Unrolled<kSums>([&](auto i) { sums[i] = Sums::Of(LoadFloats(last + i / kCount * F32::kLanes)); });
   const Step firstStep(rotations[0].ofLog2[Log2(Layout::kSamples)]);
   const Step otherStep(rotations[kCount - 1].ofLog2[Log2(Layout::kSamples)]);
   while (x != first) {
     x -= kElements;
-    ForEachIndex<kSums>([&](auto i) {
+    Unrolled<kSums>([&](auto i) {
       const F32 samples = LoadFloats(x + i / kCount * F32::kLanes);
       sums[i] = sums[i].Advanced(i % kCount == 0 ? firstStep : otherStep, samples);
     });
   }
 
-  ForEachIndex<kCount>([&](auto k) {
+  Unrolled<kCount>([&](auto k) {
     FoldVectors<Layout::kVectors>(sums + k, kCount, rotations[k]);
     FourierSum lanes[Sums::kLanes];
     sums[k].Store(lanes);

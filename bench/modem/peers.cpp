@@ -5,9 +5,10 @@
 #include <cmath>
 #include <memory>
 
-// Without an order of its own: tone_detect.h uses the first.
+// Without an order of its own: tone_detect.h uses the two before it.
 // clang-format off
 #include <spandsp/telephony.h>
+#include <spandsp/complex.h>
 #include <spandsp/tone_detect.h>
 // clang-format on
 
