@@ -1,4 +1,6 @@
 // Receivers' primitives, called through the shared library.
+#include <cmath>
+
 #include "bench/compare.h"
 #include "bench/modem/peers.h"
 #include "orbs90lgc.h"
@@ -36,6 +38,27 @@ void CompareGoertzel(const char* name, OrbStatus (*ours)(const Source*, Orb32s, 
   });
 }
 
+// A carrier that swings between -0.2 and 0.2 cycles a sample.
+Orb32fc Carrier(Orb32s i) {
+  const double phase = 0.2 * kTwoPi * 100 * std::sin(i / 100.0);
+  return {static_cast<Orb32f>(20000 * std::cos(phase)), static_cast<Orb32f>(20000 * std::sin(phase))};
+}
+
+void CompareFM() {
+  constexpr double kRead = 2 * sizeof(Orb16s);
+  CompareAtSizes("DemodulateFM_CToR_16s", {kRead, sizeof(Orb16s)}, {160, 4096}, [](Comparison& c, Orb32s n) {
+    const Orb16s* re = c.Array<Orb16s>(n, [](Orb32s i) { return Carrier(i).re; });
+    const Orb16s* im = c.Array<Orb16s>(n, [](Orb32s i) { return Carrier(i).im; });
+    const Orb32fc* pairs = c.Array<Orb32fc>(n, Carrier);
+    Orb16s* dst = c.Array<Orb16s>(n);
+    Orb32f* steps = c.Array<Orb32f>(n);
+    Orb16sc* delayPoint = c.Array<Orb16sc>(1);
+    c.Ours([=] { legacy90orbsDemodulateFM_CToR_16s(re, im, dst, n, delayPoint); });
+    c.Peer("freqdem", native::LiquidDemodulateFM(pairs, steps, n));
+    c.Peer("atan2", native::ArctangentLoop(re, im, dst, n));
+  });
+}
+
 OrbStatus ScaledTwo(const Orb16sc* src, Orb32s len, Orb16sc* result, const Orb32f* f) {
   return legacy90orbsGoertzTwo_16sc_Sfs(src, len, result, f, 8);
 }
@@ -46,6 +69,7 @@ void Declare() {
   CompareGoertzel("GoertzTwo_16sc_Sfs", ScaledTwo);
   CompareGoertzel("GoertzTwo_64f", legacy90orbsGoertzTwo_64f);
   CompareGoertzel("GoertzTwo_64fc", legacy90orbsGoertzTwo_64fc);
+  CompareFM();
 }
 
 const Family family(kEveryVariant, Declare);

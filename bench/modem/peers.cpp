@@ -2,8 +2,12 @@
 
 #include <stdint.h>
 
+// Before liquid.h, which then takes the complex type of C++.
 #include <cmath>
+#include <complex>
 #include <memory>
+
+#include <liquid/liquid.h>
 
 // Without an order of its own: tone_detect.h uses the two before it.
 // clang-format off
@@ -56,6 +60,27 @@ Call GoertzelLoop(const Orb16s* src, Orb32s n, Orb32f first, Orb32f second) {
       }
     }
     for (int k = 0; k < 2; ++k) powers->powers[k] = p[k] * p[k] + q[k] * q[k] - p[k] * q[k] * coefficients[k];
+  };
+}
+
+Call LiquidDemodulateFM(const Orb32fc* src, Orb32f* dst, Orb32s n) {
+  const std::shared_ptr<freqdem_s> demodulator(freqdem_create(0.5f), freqdem_destroy);
+  auto* const given = reinterpret_cast<std::complex<float>*>(const_cast<Orb32fc*>(src));
+  return [=] { freqdem_demodulate_block(demodulator.get(), given, static_cast<unsigned>(n), dst); };
+}
+
+Call ArctangentLoop(const Orb16s* re, const Orb16s* im, Orb16s* dst, Orb32s n) {
+  return [=] {
+    float p = 0;
+    float q = 0;
+    for (Orb32s i = 0; i < n; ++i) {
+      const float a = re[i];
+      const float b = im[i];
+      const float step = std::atan2(p * b - q * a, p * a + q * b) * 10430.378f;
+      dst[i] = static_cast<Orb16s>(__builtin_rintf(step > 32767 ? 32767 : step));
+      p = a;
+      q = b;
+    }
   };
 }
 
