@@ -21,6 +21,7 @@ set(ORBS_VARIANT_SOURCES
     gen/companding.cpp
     modem/fm.cpp
     modem/goertzel.cpp
+    modem/viterbi.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp
     transform/fft_init.cpp

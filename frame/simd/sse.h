@@ -244,6 +244,12 @@ ORBS_INLINE I32x4 operator*(I32x4 a, I32x4 b) {
 ORBS_INLINE F32x4 AsFloat(I32x4 a) { return {_mm_castsi128_ps(a.v)}; }
 ORBS_INLINE I32x4 AsInt(F32x4 a) { return {_mm_castps_si128(a.v)}; }
 
+// Lane j from lane (j + n) mod 4.
+template <int n>
+ORBS_INLINE I32x4 TurnLanes(I32x4 a) {
+  return {_mm_shuffle_epi32(a.v, _MM_SHUFFLE((n + 3) & 3, (n + 2) & 3, (n + 1) & 3, n & 3))};
+}
+
 // ---- 16-bit integers ----
 
 ORBS_INLINE I16x8 operator+(I16x8 a, I16x8 b) { return {_mm_add_epi16(a.v, b.v)}; }
