@@ -21,6 +21,9 @@ set(ORBS_VARIANT_SOURCES
     fir/integer_state.cpp
     fir/one.cpp
     gen/companding.cpp
+    modem/fm.cpp
+    modem/goertzel.cpp
+    modem/viterbi.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp
     transform/fft_init.cpp

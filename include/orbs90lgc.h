@@ -11,9 +11,12 @@
 #include "orbs90lgc/fir_direct.h"
 #include "orbs90lgc/fir_integer.h"
 #include "orbs90lgc/fir_state.h"
+#include "orbs90lgc/fm.h"
 #include "orbs90lgc/frame.h"
+#include "orbs90lgc/goertzel.h"
 #include "orbs90lgc/spectrum.h"
 #include "orbs90lgc/status.h"
 #include "orbs90lgc/types.h"
+#include "orbs90lgc/viterbi.h"
 
 #endif

@@ -65,6 +65,8 @@ ORBS_INLINE F32x8 MulAddSub(F32x8 a, F32x8 b, F32x8 c) { return {_mm256_addsub_p
 ORBS_INLINE F64x4 MulAddSub(F64x4 a, F64x4 b, F64x4 c) { return {_mm256_addsub_pd((a * b).v, c.v)}; }
 #endif
 
+ORBS_INLINE F32x8 ReciprocalEstimate(F32x8 a) { return {_mm256_rcp_ps(a.v)}; }
+
 ORBS_INLINE F32x8 DupEven(F32x8 a) { return {_mm256_moveldup_ps(a.v)}; }
 ORBS_INLINE F32x8 DupOdd(F32x8 a) { return {_mm256_movehdup_ps(a.v)}; }
 ORBS_INLINE F32x8 SwapPairs(F32x8 a) { return {_mm256_permute_ps(a.v, _MM_SHUFFLE(2, 3, 0, 1))}; }
