@@ -19,6 +19,9 @@ set(ORBS_VARIANT_SOURCES
     fir/integer_state.cpp
     fir/one.cpp
     gen/companding.cpp
+    gen/jaehne.cpp
+    gen/ramp.cpp
+    gen/slope.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp
     transform/fft_init.cpp
