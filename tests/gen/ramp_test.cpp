@@ -122,20 +122,26 @@ TEST_P(RampTest, LongIndices) {
 
 class SlopeTest : public ExportTest {
  protected:
-  // Exact where the line is beyond a bound, and everywhere in px. Elsewhere a value near the middle between
-  // two integers may go either way.
+  // The line begins anew, rounded to binary32, where it enters the range. Exact beyond the bounds, and in px
+  // everywhere; in the other variants a value near the middle between two integers may go either way.
   void ExpectSlope(int length, float offset, float slope) {
     GuardedArray<Orb8s> out(static_cast<size_t>(length), static_cast<size_t>(length) % 5);
     ASSERT_EQ(legacy90orbsVectorSlope_8s(out.data(), length, offset, slope), StatusOk);
     ASSERT_TRUE(out.GuardsIntact()) << length;
+    int entry = -1;
+    long double base = 0;
     for (int n = 0; n < length; ++n) {
-      const long double y = offset + static_cast<long double>(n) * slope;
-      const long double limited = std::min(127.0L, std::max(-128.0L, y));
+      long double y = offset + static_cast<long double>(n) * slope;
+      const bool inside = y > -128 && y < 127;
+      if (inside) {
+        if (entry < 0) entry = n, base = static_cast<float>(y);
+        y = base + static_cast<long double>(n - entry) * slope;
+      }
       const Orb8s actual = out[static_cast<size_t>(n)];
-      if (GetParam() == Variant::px || y >= 127 || y <= -128) {
+      if (GetParam() == Variant::px || !inside) {
         ASSERT_EQ(actual, Deliver<Orb8s>(y)) << n << " of " << length << ": " << offset << " + n " << slope;
       } else {
-        ASSERT_LE(std::abs(actual - limited), 0.5L + 1e-3L) << n << ": " << offset << " + n " << slope;
+        ASSERT_LE(std::abs(actual - y), 0.5L + 1e-3L) << n << ": " << offset << " + n " << slope;
       }
     }
   }
@@ -228,7 +234,7 @@ TEST_P(JaehneTest, EightBitsFollowTheFormula) {
 }
 
 TEST_P(JaehneTest, ThirtyTwoBitsAreTheWavePlusItsMinimum) {
-  std::vector<int> lengths = {255, 256, 257, 1000, 3000000};
+  std::vector<int> lengths = {255, 256, 257, 1000, 500000};
   for (int length = 1; length <= 40; ++length) lengths.push_back(length);
   for (const int length : lengths) {
     for (const Orb32u magn : {0u, 1u, 255u, 1000001u, 4294967295u}) {
