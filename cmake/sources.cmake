@@ -18,8 +18,10 @@ set(ORBS_VARIANT_SOURCES
     fir/integer.cpp
     fir/integer_state.cpp
     fir/one.cpp
+    gen/blackman.cpp
     gen/companding.cpp
     gen/jaehne.cpp
+    gen/kaiser.cpp
     gen/ramp.cpp
     gen/slope.cpp
     transform/fft_codelets.cpp

@@ -15,5 +15,6 @@
 #include "orbs90lgc/spectrum.h"
 #include "orbs90lgc/status.h"
 #include "orbs90lgc/types.h"
+#include "orbs90lgc/window.h"
 
 #endif
