@@ -23,6 +23,8 @@ set(ORBS_VARIANT_SOURCES
     gen/jaehne.cpp
     gen/kaiser.cpp
     gen/ramp.cpp
+    gen/random_gauss.cpp
+    gen/random_uniform.cpp
     gen/slope.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp

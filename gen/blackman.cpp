@@ -22,7 +22,8 @@ constexpr Orb64f kTwoPi = 6.283185307179586;
 class BlackmanValues {
  public:
   BlackmanValues(Orb32s len, Orb32s alphaQ15)
-      : constant_(F32::All(1 + alphaQ15 * 0x1p-14f)), linear_(F32::All(alphaQ15 * 0x1p-13f)) {
+      : constant_(F32::All(static_cast<Orb32f>(1 + alphaQ15 * 0x1p-14))),
+        linear_(F32::All(static_cast<Orb32f>(alphaQ15 * 0x1p-13))) {
     const Orb64f step = kTwoPi / (len - 1);
     const Orb64f sine = sin(F32::kLanes / 2 * step);
     curvature_ = F32::All(static_cast<Orb32f>(4 * sine * sine));

@@ -12,6 +12,7 @@
 #include "orbs90lgc/fir_state.h"
 #include "orbs90lgc/frame.h"
 #include "orbs90lgc/ramp.h"
+#include "orbs90lgc/random.h"
 #include "orbs90lgc/spectrum.h"
 #include "orbs90lgc/status.h"
 #include "orbs90lgc/types.h"
