@@ -71,7 +71,7 @@ void FillGauss(Result* dst, Orb32s len, Orb64f mean, Orb64f stdDev, Orb32u* seed
   for (Orb32s done = 0; done < len;) {
     const Orb32s room = len - done;
     const Orb32s missing = room / 2 + room % 2;
-    const int count = missing < kRandomBlock / 2 ? 2 * missing : kRandomBlock;
+    const int count = 2 * missing <= kRandomHalfBlock ? kRandomHalfBlock : kRandomBlock;
     blocks.Next(count);
     used = points.Collect(blocks.numbers, count, missing);
     points.ComputeFactors();

@@ -52,9 +52,10 @@ class BorrowSequence {
 
 #if ORBS_VECTOR
 
-// A multiple of the lanes of every vector, of three words and of a pair. Short enough that the processor
-// works on the conversion of one block while the chain of the next one has begun.
-inline constexpr int kRandomBlock = 48;
+// Blocks end where a vector of any variant, three words and a pair of numbers end. Short enough that the
+// processor works on the conversion of one block while the chain of the next one has begun.
+inline constexpr int kRandomHalfBlock = 24;
+inline constexpr int kRandomBlock = 2 * kRandomHalfBlock;
 
 // L(n) for the first lanes, and the step that takes each lane over all of them.
 struct LinearSteps {
@@ -73,15 +74,17 @@ struct LinearSteps {
   }
 };
 
+inline constexpr LinearSteps kLinearSteps{};
+
 class RandomBlocks {
  public:
-  explicit RandomBlocks(Orb32u seed) : words_(seed), linear_(I32::Load(kSteps.start)) {}
+  explicit RandomBlocks(Orb32u seed) : words_(seed), linear_(I32::Load(kLinearSteps.start)) {}
 
-  // Makes `count` numbers, at most kRandomBlock; only the last block of a call may have fewer than that.
+  // Makes `count` numbers: a half or a whole block; the last time also any number in between or below.
   void Next(int count) {
     for (int i = 0; i < count; i += 3) words_.NextThree(words + i);
-    const I32 factor = I32::All(static_cast<Orb32s>(kSteps.factor));
-    const I32 term = I32::All(static_cast<Orb32s>(kSteps.term));
+    const I32 factor = I32::All(static_cast<Orb32s>(kLinearSteps.factor));
+    const I32 term = I32::All(static_cast<Orb32s>(kLinearSteps.term));
     for (int i = 0; i < count; i += I32::kLanes) {
       (I32::Load(reinterpret_cast<const Orb32s*>(words) + i) + linear_).Store(numbers + i);
       linear_ = linear_ * factor + term;
@@ -93,8 +96,6 @@ class RandomBlocks {
   Orb32s numbers[kRandomBlock] = {};
 
  private:
-  static constexpr LinearSteps kSteps;
-
   BorrowSequence words_;
   I32 linear_;
 };
