@@ -18,5 +18,11 @@
 #include "orbs90lgc/status.h"
 #include "orbs90lgc/types.h"
 #include "orbs90lgc/viterbi.h"
+#include "orbs90lgc/ramp.h"
+#include "orbs90lgc/random.h"
+#include "orbs90lgc/spectrum.h"
+#include "orbs90lgc/status.h"
+#include "orbs90lgc/types.h"
+#include "orbs90lgc/window.h"
 
 #endif
