@@ -17,6 +17,7 @@ set(ORBS_VARIANT_SOURCES
     fir/float_init.cpp
     fir/integer.cpp
     fir/integer_state.cpp
+    fir/lms.cpp
     fir/one.cpp
     gen/companding.cpp
     transform/fft_codelets.cpp

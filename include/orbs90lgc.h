@@ -9,6 +9,7 @@
 #include "orbs90lgc/fft.h"
 #include "orbs90lgc/fir.h"
 #include "orbs90lgc/fir_integer.h"
+#include "orbs90lgc/fir_lms.h"
 #include "orbs90lgc/fir_state.h"
 #include "orbs90lgc/frame.h"
 #include "orbs90lgc/spectrum.h"

@@ -1,0 +1,1 @@
+#include "support/export_test.h"
