@@ -19,6 +19,7 @@ set(ORBS_VARIANT_SOURCES
     fir/float_init.cpp
     fir/integer.cpp
     fir/integer_state.cpp
+    fir/lms.cpp
     fir/one.cpp
     gen/blackman.cpp
     gen/companding.cpp

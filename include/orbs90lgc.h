@@ -10,6 +10,7 @@
 #include "orbs90lgc/fir.h"
 #include "orbs90lgc/fir_direct.h"
 #include "orbs90lgc/fir_integer.h"
+#include "orbs90lgc/fir_lms.h"
 #include "orbs90lgc/fir_state.h"
 #include "orbs90lgc/fm.h"
 #include "orbs90lgc/frame.h"
