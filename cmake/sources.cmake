@@ -19,6 +19,8 @@ set(ORBS_VARIANT_SOURCES
     fir/integer_state.cpp
     fir/one.cpp
     gen/companding.cpp
+    gen/tone.cpp
+    gen/tone_q15.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp
     transform/fft_init.cpp
