@@ -21,6 +21,8 @@ set(ORBS_VARIANT_SOURCES
     gen/companding.cpp
     gen/tone.cpp
     gen/tone_q15.cpp
+    gen/triangle.cpp
+    gen/triangle_q15.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp
     transform/fft_init.cpp

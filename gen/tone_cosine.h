@@ -2,8 +2,7 @@
 #ifndef ORBS_GEN_TONE_COSINE_H
 #define ORBS_GEN_TONE_COSINE_H
 
-#include "frame/simd.h"
-#include "gen/tone_phase.h"
+#include "gen/tone_turns.h"
 
 #if ORBS_VECTOR
 
@@ -30,11 +29,6 @@ ORBS_INLINE F64 Polynomial(const Orb64f (&terms)[n], F64 z) {
   for (int i = n - 2; i >= 0; --i) sum = MulAdd(sum, z, F64::All(terms[i]));
   return sum;
 }
-
-// Adding it to |x| < 2^51 rounds x to the nearest integer and leaves that in the low bits of the sum.
-ORBS_INLINE F64 RoundingBias() { return F64::All(0x1.8p52); }
-
-ORBS_INLINE F64 RoundToWhole(F64 x) { return (x + RoundingBias()) - RoundingBias(); }
 
 // Turns, |t| < 2^49, are exact where radians are not: the distance to the nearest quarter has no rounding
 // error, and at whole quarters the results are exactly 0, 1 or -1.

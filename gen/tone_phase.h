@@ -25,11 +25,6 @@ ORBS_INLINE bool IsPhaseQ15(Orb32s phaseQ15) {
   return static_cast<Orb32u>(phaseQ15) <= static_cast<Orb32u>(kMaxPhaseQ15);
 }
 
-// x >= 0 without its whole part.
-ORBS_INLINE long double Fraction(long double x) {
-  return x - static_cast<long double>(static_cast<int64_t>(x));
-}
-
 // The phase `len` samples on, stored: always a legal phase, since what rounding carries out of the range, or
 // up to 2 pi on the way into binary32, becomes 0. In extended precision in every variant: 2 pi len rFreq
 // reaches 10^10, of which binary64 keeps six decimals.

@@ -14,7 +14,6 @@
 #include <type_traits>
 
 #include "gen/tone_cosine.h"
-#include "gen/tone_phase.h"
 #include "gen/tone_store.h"
 
 #if ORBS_VECTOR
@@ -25,8 +24,6 @@ inline constexpr int kToneUnit = 16;  // samples that a step computes, and that 
 inline constexpr int kToneSegment = 256;
 inline constexpr int kToneSegments = 4;
 inline constexpr int kToneBlock = kToneSegments * kToneSegment;
-
-inline constexpr Orb64f kFirstNumbers[kToneUnit] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
 
 // a b - c.
 template <class V>
@@ -46,18 +43,12 @@ struct ToneStart {
 
 template <int kParts>
 ORBS_INLINE void PrepareToneStart(Orb64f rFreq, ToneStart<kParts>* start) {
-  // rFreq in two parts, of which the first times 15 is exact: turns lose nothing to rounding.
-  const Orb64f coarse = (rFreq + 24) - 24;  // a multiple of 2^-48
-  const F64 first = F64::All(coarse);
-  const F64 second = F64::All(rFreq - coarse);
   Orb64f cosines[kToneUnit];
   Orb64f sines[kToneUnit];
   for (int i = 0; i < kToneUnit; i += F64::kLanes) {
-    const F64 n = F64::Load(kFirstNumbers + i);
-    const F64 whole = n * first;
     F64 c;
     F64 s;
-    CosineAndSineOfTurns(MulAdd(n, second, whole - RoundToWhole(whole)), &c, &s);
+    CosineAndSineOfTurns(TurnsOfMultiples(F64::Load(kFirstNumbers + i), rFreq), &c, &s);
     c.Store(cosines + i);
     s.Store(sines + i);
   }
@@ -154,13 +145,11 @@ void GenerateToneIn(Part* dst, Orb32s len, Orb64f magn, Orb64f rFreq, Orb64f pha
   ToneStart<kParts> start;
   PrepareToneStart(rFreq, &start);
   const V scale = V::All(static_cast<typename V::Lane>(magn));
-  const long double origin = static_cast<long double>(phase) / (2 * 3.14159265358979323846264338327950288L);
-
+  const long double origin = TurnsOfPhase(phase);
   const auto block = [&](Part* to, int segmentLen, Orb32s n) {
     Orb64f turns[kToneSegments];
     for (int i = 0; i < kToneSegments; ++i) {
-      const auto index = static_cast<long double>(n) + i * segmentLen;
-      turns[i] = static_cast<Orb64f>(Fraction(origin + index * rFreq));
+      turns[i] = TurnsOfSample(origin, int64_t{n} + i * segmentLen, rFreq);
     }
     GenerateToneBlock<V, kParts>(to, segmentLen, start, turns, scale);
   };

@@ -14,6 +14,7 @@
 #include "orbs90lgc/spectrum.h"
 #include "orbs90lgc/status.h"
 #include "orbs90lgc/tone.h"
+#include "orbs90lgc/triangle.h"
 #include "orbs90lgc/types.h"
 
 #endif

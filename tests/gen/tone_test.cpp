@@ -6,6 +6,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "gen/tone_forms.h"
 #include "support/export_test.h"
 #include "support/failing_allocator.h"
 #include "support/guarded_array.h"
@@ -17,30 +18,6 @@ constexpr long double kTwoPi = 6.283185307179586476925286766559005768L;
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr Orb32f kLastPhase = 6.283185f;  // the last binary32 number below 2 pi
 constexpr Orb32s kLastPhaseQ15 = 205886;
-
-template <class Sample>
-struct FormOf {
-  using Part = Sample;
-  using Real = std::conditional_t<std::is_same_v<Sample, Orb64f>, Orb64f, Orb32f>;
-  using Magnitude = Sample;
-  static constexpr bool kComplex = false;
-};
-template <>
-struct FormOf<Orb32fc> : FormOf<Orb32f> {
-  static constexpr bool kComplex = true;
-};
-template <>
-struct FormOf<Orb64fc> : FormOf<Orb64f> {
-  static constexpr bool kComplex = true;
-};
-template <>
-struct FormOf<Orb16sc> : FormOf<Orb16s> {
-  static constexpr bool kComplex = true;
-};
-template <class Sample>
-using Part = typename FormOf<Sample>::Part;
-template <class Sample>
-using Real = typename FormOf<Sample>::Real;
 
 template <class Sample>
 using Function = OrbStatus (*)(Sample*, Orb32s, Part<Sample>, Real<Sample>, Real<Sample>*, OrbAlgHint);
@@ -63,15 +40,6 @@ Sample Exact(long double magn, double rFreq, double phase, long long n) {
     return {part(std::cos(angle)), part(std::sin(angle))};
   } else {
     return part(std::cos(angle));
-  }
-}
-
-template <class Sample>
-double Distance(Sample a, Sample b) {
-  if constexpr (FormOf<Sample>::kComplex) {
-    return std::max(Distance(a.re, b.re), Distance(a.im, b.im));
-  } else {
-    return std::fabs(static_cast<double>(a) - static_cast<double>(b));
   }
 }
 
