@@ -22,12 +22,15 @@ inline constexpr Orb64f kCosineTerms[] = {1.0,
 inline constexpr Orb64f kSineTerms[] = {-1.0 / 6,        1.0 / 120,        -1.0 / 5040,         1.0 / 362880,
                                         -1.0 / 39916800, 1.0 / 6227020800, -1.0 / 1307674368000};
 
+// Even and odd powers apart: two chains of half the length, since a short call waits for this one after the
+// other.
 template <int n>
 ORBS_INLINE F64 Polynomial(const Orb64f (&terms)[n], F64 z) {
-  F64 sum = F64::All(terms[n - 1]);
+  const F64 square = z * z;
+  F64 sums[2] = {F64::All(terms[(n - 1) / 2 * 2]), F64::All(terms[n / 2 * 2 - 1])};
   ORBS_UNROLL
-  for (int i = n - 2; i >= 0; --i) sum = MulAdd(sum, z, F64::All(terms[i]));
-  return sum;
+  for (int i = n - 3; i >= 0; --i) sums[i % 2] = MulAdd(sums[i % 2], square, F64::All(terms[i]));
+  return MulAdd(sums[1], z, sums[0]);
 }
 
 // Turns, |t| < 2^49, are exact where radians are not: the distance to the nearest quarter has no rounding
@@ -48,6 +51,14 @@ ORBS_INLINE void CosineAndSineOfTurns(F64 t, F64* cosine, F64* sine) {
   const F64 isOdd = Less(lowest | F64::All(1), F64::Zero());
   *cosine = Select(isOdd, s, c) ^ lowest ^ next;
   *sine = Select(isOdd, c, s) ^ next;
+}
+
+ORBS_INLINE void StoreCosineAndSine(F64 turns, Orb64f* cosines, Orb64f* sines) {
+  F64 c;
+  F64 s;
+  CosineAndSineOfTurns(turns, &c, &s);
+  c.Store(cosines);
+  s.Store(sines);
 }
 
 }  // namespace orbs::ORBS_VARIANT

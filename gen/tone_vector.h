@@ -22,8 +22,7 @@ namespace orbs::ORBS_VARIANT {
 
 inline constexpr int kToneUnit = 16;  // samples that a step computes, and that a segment starts from
 inline constexpr int kToneSegment = 256;
-inline constexpr int kToneSegments = 4;
-inline constexpr int kToneBlock = kToneSegments * kToneSegment;
+inline constexpr int kMostSegments = 16;  // in a block
 
 // a b - c.
 template <class V>
@@ -43,14 +42,24 @@ struct ToneStart {
 
 template <int kParts>
 ORBS_INLINE void PrepareToneStart(Orb64f rFreq, ToneStart<kParts>* start) {
+  // Samples 0 to 3, and the first of each four; all 16 are sums of two of these angles.
+  constexpr Orb64f kNumbers[8] = {0, 1, 2, 3, 0, 4, 8, 12};
+  Orb64f c[8];
+  Orb64f s[8];
+  ORBS_UNROLL
+  for (int i = 0; i < 8; i += F64::kLanes) {
+    StoreCosineAndSine(TurnsOfMultiples(F64::Load(kNumbers + i), rFreq), c + i, s + i);
+  }
   Orb64f cosines[kToneUnit];
   Orb64f sines[kToneUnit];
+  ORBS_UNROLL
   for (int i = 0; i < kToneUnit; i += F64::kLanes) {
-    F64 c;
-    F64 s;
-    CosineAndSineOfTurns(TurnsOfMultiples(F64::Load(kFirstNumbers + i), rFreq), &c, &s);
-    c.Store(cosines + i);
-    s.Store(sines + i);
+    const F64 c4 = F64::All(c[4 + i / 4]);
+    const F64 s4 = F64::All(s[4 + i / 4]);
+    const F64 c1 = F64::Load(c + i % 4);
+    const F64 s1 = F64::Load(s + i % 4);
+    NegMulAdd(s4, s1, c4 * c1).Store(cosines + i);
+    MulAdd(c4, s1, s4 * c1).Store(sines + i);
   }
   // From the cosine itself: by doubling from 2 cos(w) its error would grow 64-fold at low frequencies.
   start->k = 2 * cosines[8];
@@ -100,107 +109,98 @@ struct ToneSegment {
   }
 };
 
-// Four segments of `segmentLen` samples, a multiple of 16; turns[i] is the angle of the first sample of
-// segment i.
-template <class V, int kParts, class Part>
-ORBS_INLINE void GenerateToneBlock(Part* dst, int segmentLen, const ToneStart<kParts>& start,
-                                   const Orb64f (&turns)[kToneSegments], V magn) {
+// 16 samples of magnitude 1 to places `index` on; kWhole: all of them below `count`. What does not fit goes
+// by way of a copy, which is the last piece of an array at most.
+template <bool kWhole, int kParts, ToInteger kRounding, class Part, class V, int n>
+ORBS_INLINE void StoreUnit(Part* dst, int index, int count, const V (&unit)[n], V magn) {
+  Part* const to = dst + index * kParts;
+  if (kWhole || index + kToneUnit <= count) {
+    StoreScaled<kRounding>(to, unit, magn);
+  } else if (index < count) {
+    Part samples[kToneUnit * kParts];
+    StoreScaled<kRounding>(samples, unit, magn);
+    std::memcpy(to, samples, static_cast<size_t>(count - index) * kParts * sizeof(Part));
+  }
+}
+
+// `count` samples in `segments` segments, a multiple of 4, of `segmentLen` samples, a multiple of 16; `turns`
+// is the angle of the first sample.
+template <bool kWhole, class V, int kParts, ToInteger kRounding, class Part>
+ORBS_INLINE void GenerateSegments(Part* dst, int count, int segments, int segmentLen,
+                                  const ToneStart<kParts>& start, Orb64f turns, Orb64f rFreq, V magn) {
   using Segment = ToneSegment<V, kParts>;
   // Four vectors at work cover the time of a multiplication and an addition.
   constexpr int kTogether = Segment::kStep < 4 ? 4 / Segment::kStep : 1;
-  static_assert(kToneSegments % kTogether == 0);
 
-  Orb64f cosines[kToneSegments];
-  Orb64f sines[kToneSegments];
-  for (int i = 0; i < kToneSegments; i += F64::kLanes) {
-    F64 c;
-    F64 s;
-    CosineAndSineOfTurns(F64::Load(turns + i), &c, &s);
-    c.Store(cosines + i);
-    s.Store(sines + i);
+  Orb64f cosines[kMostSegments];
+  Orb64f sines[kMostSegments];
+  for (int i = 0; i < segments; i += F64::kLanes) {
+    const F64 first = F64::Load(kFirstNumbers + i) * F64::All(segmentLen);
+    StoreCosineAndSine(F64::All(turns) + TurnsOfMultiples(first, rFreq), cosines + i, sines + i);
   }
 
   const V k = V::All(static_cast<typename V::Lane>(start.k));
-  for (int i = 0; i < kToneSegments; i += kTogether) {
-    Segment segments[kTogether];
+  for (int i = 0; i < segments; i += kTogether) {
+    Segment together[kTogether];
     ORBS_UNROLL
-    for (int j = 0; j < kTogether; ++j) segments[j].Begin(start, cosines[i + j], sines[i + j]);
-    Part* to = dst + i * segmentLen * kParts;
-    for (int done = 0;; to += kToneUnit * kParts) {
+    for (int j = 0; j < kTogether; ++j) together[j].Begin(start, cosines[i + j], sines[i + j]);
+    const auto store = [&](int done) {
       ORBS_UNROLL
       for (int j = 0; j < kTogether; ++j) {
-        StoreScaled<ToInteger::kTruncate>(to + j * segmentLen * kParts, segments[j].past, magn);
+        StoreUnit<kWhole, kParts, kRounding>(dst, (i + j) * segmentLen + done, count, together[j].past, magn);
       }
-      done += kToneUnit;
-      if (done == segmentLen) break;
+    };
+    store(0);
+    for (int done = kToneUnit; done < segmentLen; done += kToneUnit) {
       ORBS_UNROLL
-      for (int j = 0; j < kTogether; ++j) segments[j].Advance(k);
+      for (int j = 0; j < kTogether; ++j) together[j].Advance(k);
+      store(done);
     }
   }
 }
 
-// V: the vectors that the recurrence runs in.
-template <class V, int kParts, class Part>
-void GenerateToneIn(Part* dst, Orb32s len, Orb64f magn, Orb64f rFreq, Orb64f phase) {
+// From the angle `origin` on, in turns, in blocks of kSegments segments. V: the vectors that the recurrence
+// runs in.
+template <class V, int kParts, int kSegments, int kSegmentLen, ToInteger kRounding, class Part>
+void GenerateToneFrom(long double origin, Part* dst, Orb32s len, Orb64f magn, Orb64f rFreq) {
+  constexpr int kBlock = kSegments * kSegmentLen;
   ToneStart<kParts> start;
   PrepareToneStart(rFreq, &start);
   const V scale = V::All(static_cast<typename V::Lane>(magn));
-  const long double origin = TurnsOfPhase(phase);
-  const auto block = [&](Part* to, int segmentLen, Orb32s n) {
-    Orb64f turns[kToneSegments];
-    for (int i = 0; i < kToneSegments; ++i) {
-      turns[i] = TurnsOfSample(origin, int64_t{n} + i * segmentLen, rFreq);
-    }
-    GenerateToneBlock<V, kParts>(to, segmentLen, start, turns, scale);
-  };
-
-  Orb32s n = 0;
-  for (; len - n >= kToneBlock; n += kToneBlock) {
-    block(dst + static_cast<size_t>(n) * kParts, kToneSegment, n);
+  int64_t n = 0;
+  for (; len - n >= kBlock; n += kBlock, dst += kBlock * kParts) {
+    GenerateSegments<true, V, kParts, kRounding>(dst, kBlock, kSegments, kSegmentLen, start,
+                                                 TurnsOfSample(origin, n, rFreq), rFreq, scale);
   }
-  if (const int rest = len - n; rest > 0) {
-    Part samples[kToneBlock * kParts];
-    const int segmentLen = (rest + kToneSegments * kToneUnit - 1) / (kToneSegments * kToneUnit) * kToneUnit;
-    block(samples, segmentLen, n);
-    std::memcpy(dst + static_cast<size_t>(n) * kParts, samples,
-                static_cast<size_t>(rest) * kParts * sizeof(Part));
-  }
+  if (n == len) return;
+  const int count = static_cast<int>(len - n);
+  const int quarters = (count + 4 * kToneUnit - 1) / (4 * kToneUnit);
+  const bool oneUnitEach = kSegmentLen == kToneUnit;
+  GenerateSegments<false, V, kParts, kRounding>(dst, count, oneUnitEach ? 4 * quarters : 4,
+                                                oneUnitEach ? kToneUnit : kToneUnit * quarters, start,
+                                                TurnsOfSample(origin, n, rFreq), rFreq, scale);
 }
 
 // Binary32 for HintFast, unless the result is binary64: single precision would then save nothing, the stores
 // being as wide.
 template <int kParts, class Part, class Real>
 void GenerateTone(Part* dst, Orb32s len, Orb64f magn, Real rFreq, Real phase, OrbAlgHint hint) {
+  constexpr ToInteger kCut = ToInteger::kTruncate;
+  const long double origin = TurnsOfPhase(phase);
   if constexpr (!std::is_same_v<Part, Orb64f>) {
-    if (hint == HintFast) return GenerateToneIn<F32, kParts>(dst, len, magn, rFreq, phase);
+    if (hint == HintFast) {
+      return GenerateToneFrom<F32, kParts, 4, kToneSegment, kCut>(origin, dst, len, magn, rFreq);
+    }
   }
-  GenerateToneIn<F64, kParts>(dst, len, magn, rFreq, phase);
+  GenerateToneFrom<F64, kParts, 4, kToneSegment, kCut>(origin, dst, len, magn, rFreq);
 }
 
-// Samples `first` to first + len - 1, each from its own angle. rFreq is a multiple of 2^-15 and the index has
-// 32 bits, so that their product, in turns, is exact.
+// Samples `first` to first + len - 1. Segments of 16 samples: no recurrence, each sample is the sum of two
+// exact angles.
 inline void GenerateIndexedTone(Orb16s* dst, Orb32s len, Orb64f magn, Orb64f rFreq, Orb64f phase,
                                 Orb32s first) {
-  const F64 scale = F64::All(magn);
-  const F64 frequency = F64::All(rFreq);
-  const F64 origin = F64::All(phase * kInverseTwoPi);
-  const auto unit = [&](Orb16s* to, Orb32s i) {
-    const F64 index = F64::All(static_cast<Orb64f>(first) + i);
-    F64 samples[kToneUnit / F64::kLanes];
-    for (int j = 0; j < kToneUnit / F64::kLanes; ++j) {
-      const F64 turns = (index + F64::Load(kFirstNumbers + j * F64::kLanes)) * frequency;
-      F64 sine;
-      CosineAndSineOfTurns((turns - RoundToWhole(turns)) + origin, &samples[j], &sine);
-    }
-    StoreScaled<ToInteger::kHalfAway>(to, samples, scale);
-  };
-  Orb32s i = 0;
-  for (; len - i >= kToneUnit; i += kToneUnit) unit(dst + i, i);
-  if (i < len) {
-    Orb16s samples[kToneUnit];
-    unit(samples, i);
-    std::memcpy(dst + i, samples, static_cast<size_t>(len - i) * sizeof(Orb16s));
-  }
+  const long double origin = TurnsOfPhase(phase) + static_cast<long double>(first) * rFreq;
+  GenerateToneFrom<F64, 1, kMostSegments, kToneUnit, ToInteger::kHalfAway>(origin, dst, len, magn, rFreq);
 }
 
 }  // namespace orbs::ORBS_VARIANT
