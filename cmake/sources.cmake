@@ -32,6 +32,10 @@ set(ORBS_VARIANT_SOURCES
     gen/random_gauss.cpp
     gen/random_uniform.cpp
     gen/slope.cpp
+    gen/tone.cpp
+    gen/tone_q15.cpp
+    gen/triangle.cpp
+    gen/triangle_q15.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp
     transform/fft_init.cpp

@@ -17,6 +17,8 @@
 #include "orbs90lgc/goertzel.h"
 #include "orbs90lgc/spectrum.h"
 #include "orbs90lgc/status.h"
+#include "orbs90lgc/tone.h"
+#include "orbs90lgc/triangle.h"
 #include "orbs90lgc/types.h"
 #include "orbs90lgc/viterbi.h"
 #include "orbs90lgc/ramp.h"

@@ -442,6 +442,13 @@ ORBS_INLINE F32x8 Narrow(F64x4 low, F64x4 high) {
 }
 ORBS_INLINE void StoreRounded(Orb32s* p, F64x4 a) { I32x4{_mm256_cvtpd_epi32(a.v)}.Store(p); }
 ORBS_INLINE void StoreTruncated(Orb32s* p, F64x4 a) { I32x4{_mm256_cvttpd_epi32(a.v)}.Store(p); }
+ORBS_INLINE I32x8 TruncateToInt(F64x4 low, F64x4 high) {
+#ifdef __AVX2__
+  return {_mm256_set_m128i(_mm256_cvttpd_epi32(high.v), _mm256_cvttpd_epi32(low.v))};
+#else
+  return {{_mm256_cvttpd_epi32(low.v)}, {_mm256_cvttpd_epi32(high.v)}};
+#endif
+}
 
 }  // namespace orbs::ORBS_VARIANT
 

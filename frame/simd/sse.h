@@ -364,6 +364,9 @@ ORBS_INLINE void StoreRounded(Orb32s* p, F64x2 a) {
 ORBS_INLINE void StoreTruncated(Orb32s* p, F64x2 a) {
   _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_cvttpd_epi32(a.v));
 }
+ORBS_INLINE I32x4 TruncateToInt(F64x2 low, F64x2 high) {
+  return {_mm_unpacklo_epi64(_mm_cvttpd_epi32(low.v), _mm_cvttpd_epi32(high.v))};
+}
 
 // Two vectors narrowed to one with saturation, in order.
 ORBS_INLINE I16x8 Pack(I32x4 a, I32x4 b) { return {_mm_packs_epi32(a.v, b.v)}; }
