@@ -17,9 +17,11 @@ stats ARG3 using 1 name 'frequency' nooutput
 stats ARG3 using 3 name 'greatest' nooutput
 stats ARG3 using 2 name 'mean' nooutput
 top = 10 * ceil(greatest_max / 10)
-floor_ = 10 * floor(mean_min / 10)
+bottom = 10 * floor(mean_min / 10)
+if (bottom < top - 130) bottom = top - 130
+if (bottom > top - 10) bottom = top - 10
 set xrange [0:frequency_max / 1000]
-set yrange [(floor_ < top - 130 ? top - 130 : floor_):top]
+set yrange [bottom:top]
 
 if (ARGC > 4) {
   plot ARG3 using ($1 / 1000):2 with lines lw 2 lc rgb '#1f5fa8' title ARG4, \
