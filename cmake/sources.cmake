@@ -19,6 +19,7 @@ set(ORBS_VARIANT_SOURCES
     fir/integer_state.cpp
     fir/one.cpp
     gen/companding.cpp
+    modem/goertzel.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp
     transform/fft_init.cpp

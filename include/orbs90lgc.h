@@ -11,6 +11,7 @@
 #include "orbs90lgc/fir_integer.h"
 #include "orbs90lgc/fir_state.h"
 #include "orbs90lgc/frame.h"
+#include "orbs90lgc/goertzel.h"
 #include "orbs90lgc/spectrum.h"
 #include "orbs90lgc/status.h"
 #include "orbs90lgc/types.h"
