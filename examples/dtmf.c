@@ -24,6 +24,7 @@ static const double kMaxLowOverHigh = 8.91;
 static const double kMinOverOthers = 3.98;
 static const double kMaxDeviation = 0.025;
 static const double kMinShare = 0.75;
+static const double kMaxDrift = 0.007;
 
 static const double kPi = 3.14159265358979323846;
 static const Orb32f kNominal[kGroups][kTones] = {{697, 770, 852, 941}, {1209, 1336, 1477, 1633}};
@@ -227,6 +228,15 @@ static void OpenDigit(DigitFinder* f) {
   f->open.start = fmax(TimeOf(f, (double)first - 0.5), 0);
 }
 
+/* Whether two hits can be of one digit: the same symbol, and no voice that only passes through its tones. */
+static bool IsSame(const TonePair* a, const TonePair* b) {
+  if (a->symbol == '\0' || a->symbol != b->symbol) return false;
+  for (int group = 0; group < kGroups; ++group) {
+    if (fabs(a->frequency[group] - b->frequency[group]) > kMaxDrift * a->frequency[group]) return false;
+  }
+  return true;
+}
+
 static void TakeFrame(void* finder, const Orb32f* frame, Orb64s start) {
   DigitFinder* f = finder;
   (void)start;
@@ -234,7 +244,7 @@ static void TakeFrame(void* finder, const Orb32f* frame, Orb64s start) {
   Measure(f);
   const TonePair hit = Decide(f);
 
-  if (hit.symbol == '\0' || hit.symbol != f->run.symbol) f->runLength = 0;
+  if (!IsSame(&hit, &f->run)) f->runLength = 0;
   if (f->runLength++ == 0 || SumOf(&hit) > SumOf(&f->run)) f->run = hit;
 
   const bool isSame = f->isOpen && hit.symbol == f->open.tones.symbol;

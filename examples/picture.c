@@ -13,9 +13,9 @@ enum {
   kLeftMargin = 112,
   kRightMargin = 120,
   kTop = 76,
-  kStrip = 26, /* for the digits */
+  kStrip = 40, /* for the digits, in rows */
   kWaveHeight = 150,
-  kGap = 8,
+  kGap = 22,
   kSpectrumHeight = 360,
   kAxis = 56, /* for the time */
   kTrackHeight = kStrip + kWaveHeight + kGap + kSpectrumHeight + kAxis,
@@ -114,16 +114,20 @@ static void DrawLeftTick(Canvas* canvas, int y, const char* label) {
   DrawText(canvas, kLeftMargin - kTick - 6, y - kGlyphHeight / 2, kRight, label, kInk);
 }
 
-/* The labels of those digits for which there is room; the marks under them show all. */
-static void DrawDigits(Canvas* canvas, const Picture* p, const Track* track, int y) {
-  int end = 0;
+/* Each label goes into the lowest row that has room for it. Where there is none it is left out; the marks
+ * below show all digits. */
+static void DrawDigits(Canvas* canvas, const Picture* p, const Track* track, int top) {
+  enum { kRows = 2 };
+  int end[kRows] = {0};
   for (int i = 0; i < track->digitCount; ++i) {
-    const Box span = SpanOf(p, &track->digits[i], y, kStrip);
+    const Box span = SpanOf(p, &track->digits[i], top, kStrip);
     const char label[2] = {track->digits[i].tones.symbol, '\0'};
     const int x = span.x + span.width / 2;
-    if (x - kGlyphAdvance / 2 < end) continue;
-    DrawText(canvas, x, y + 5, kMiddle, label, kMark);
-    end = x + kGlyphAdvance / 2;
+    int row = 0;
+    while (row < kRows && x - kGlyphAdvance / 2 < end[row]) ++row;
+    if (row == kRows) continue;
+    DrawText(canvas, x, top + kStrip - (row + 1) * (kGlyphHeight + 3), kMiddle, label, kMark);
+    end[row] = x + kGlyphAdvance / 2;
   }
 }
 
@@ -142,7 +146,7 @@ static void DrawWaveform(Canvas* canvas, const Picture* p, const Track* track, i
     char label[16];
     const int y = middle - (int)lround(i * unit * scale);
     snprintf(label, sizeof label, i == 0 ? "0" : "%+.0f", i * scale * 32768);
-    DrawBox(canvas, (Box){kLeftMargin, y - (int)lround(i * unit * scale / 2), kPictureColumns, 1}, kGrid);
+    DrawBox(canvas, (Box){kLeftMargin, (y + middle) / 2, kPictureColumns, 1}, kGrid);
     DrawLeftTick(canvas, y, label);
   }
   for (int i = 0; i < track->digitCount; ++i) {
@@ -194,6 +198,7 @@ static void DrawSpectrogram(Canvas* canvas, const Picture* p, const Track* track
     char label[16];
     snprintf(label, sizeof label, kilohertz == 0 ? "%d" : "%d kHz", kilohertz);
     DrawLeftTick(canvas, RowAt(kilohertz * 1000, top), label);
+    TintBox(canvas, (Box){kLeftMargin, RowAt(kilohertz * 1000, top), kPictureColumns, 1}, kPaper, 0.2);
   }
   DrawOutline(canvas, (Box){kLeftMargin - 1, top - 1, kPictureColumns + 2, kSpectrumHeight + 2}, kInk);
 }
@@ -237,7 +242,7 @@ void DrawPicture(const Picture* p, const char* path) {
     if (p->tracks > 1) {
       char name[16];
       snprintf(name, sizeof name, "line %d", i + 1);
-      DrawText(&canvas, kLeftMargin - 12, strip + 5, kRight, name, kInk);
+      DrawText(&canvas, kLeftMargin - 12, strip + 2, kRight, name, kInk);
     }
     DrawDigits(&canvas, p, track, strip);
     DrawWaveform(&canvas, p, track, wave);
