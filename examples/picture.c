@@ -165,9 +165,11 @@ static void DrawWaveform(Canvas* canvas, const Picture* p, const Track* track, i
     DrawBox(canvas, (Box){x, rmsHigh, 1, rmsLow - rmsHigh + 1}, kRms);
   }
   DrawOutline(canvas, (Box){kLeftMargin - 1, top - 1, kPictureColumns + 2, kWaveHeight + 2}, kInk);
-  DrawText(canvas, kLeftMargin + kPictureColumns + 14, top, kLeft, "16-bit", kFaint);
-  DrawText(canvas, kLeftMargin + kPictureColumns + 14, top + 22, kLeft, "peaks", kPeaks);
-  DrawText(canvas, kLeftMargin + kPictureColumns + 14, top + 44, kLeft, "RMS", kRms);
+  const int right = kLeftMargin + kPictureColumns + 16;
+  DrawText(canvas, right, top, kLeft, "16-bit", kFaint);
+  DrawText(canvas, right, top + 20, kLeft, "steps", kFaint);
+  DrawText(canvas, right, top + 50, kLeft, "peaks", kPeaks);
+  DrawText(canvas, right, top + 70, kLeft, "RMS", kRms);
 }
 
 static int RowAt(double frequency, int top) {
@@ -250,8 +252,11 @@ void DrawPicture(const Picture* p, const char* path) {
     DrawColourBar(&canvas, spectrum);
     DrawTimeAxis(&canvas, p, spectrum + kSpectrumHeight + 1);
   }
-  DrawLine(&canvas, canvas.height - kBottom,
-           "Marked: the digits found, and in the spectrogram the two tones of each.", kFaint);
+  char legend[128];
+  snprintf(legend, sizeof legend,
+           "Spectrogram: Hann window of %.0f ms. Marked: the digits found, and the two tones of each.",
+           1e3 / p->track[0].spectrogram.spacing);
+  DrawLine(&canvas, canvas.height - kBottom, legend, kFaint);
   WritePng(&canvas, path);
   FreeCanvas(&canvas);
 }
