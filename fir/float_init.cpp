@@ -10,9 +10,6 @@ namespace {
 template <class Tap>
 inline constexpr uintptr_t kFirAlignment = sizeof(PartOf<Tap>) == 8 ? 32 : 16;
 
-// Beyond 31 bits: what no caller can give.
-Orb32s Reported(int64_t bytes) { return bytes > INT32_MAX ? INT32_MAX : static_cast<Orb32s>(bytes); }
-
 template <class Kind>
 FirFftSizes SizeFirFftOf(Orb32s n) {
   return SizeFirFft<typename Kind::Tap>(n, FirTuning<typename Kind::Tap>::kFftFromTaps);
@@ -22,7 +19,7 @@ template <class Kind>
 OrbStatus GetStateSize(Orb32s tapCount, Orb32s* size) {
   ORBS_RETURN_IF_BAD(CheckResults(size));
   if (tapCount < 1) return StatusFirLength;
-  *size = Reported(FirStateBytes<typename Kind::Tap>(tapCount, SizeFirFftOf<Kind>(tapCount)));
+  *size = ReportedBytes(FirStateBytes<typename Kind::Tap>(tapCount, SizeFirFftOf<Kind>(tapCount)));
   return StatusOk;
 }
 
@@ -76,7 +73,7 @@ OrbStatus Free(FIRFloatState* state) {
 OrbStatus GetStateSize_32s(Orb32s tapCount, Orb32s* size) {
   ORBS_RETURN_IF_BAD(CheckResults(size));
   if (tapCount < 1) return StatusFirLength;
-  *size = Reported(FirBytes_32s(tapCount));
+  *size = ReportedBytes(FirBytes_32s(tapCount));
   return StatusOk;
 }
 

@@ -46,6 +46,11 @@ static_assert(sizeof(Offset<Orb64fc>) == 4);
   return (value + multiple - 1) / multiple * multiple;
 }
 
+// A size as a size query reports it: one beyond 2^31-1 bytes, which no allocation grants, as that limit.
+[[gnu::always_inline]] constexpr Orb32s ReportedBytes(int64_t bytes) {
+  return static_cast<Orb32s>(bytes < INT32_MAX ? bytes : INT32_MAX);
+}
+
 // Adds up the parts of a block in 64 bits. A block beyond 2^31-1 bytes cannot be had; Fits tells, and its
 // offsets are not to be used.
 class BlockLayout {

@@ -24,24 +24,16 @@ constexpr Orb32s MaxOrder() {
                                                                 : kFftTuning.maxComplexOrder);
 }
 
-ORBS_INLINE bool IsFlag(Orb32s flag) {
-  return flag == FftScaleFwdByN || flag == FftScaleInvByN || flag == FftScaleBySqrtN || flag == FftScaleNone;
-}
-
-ORBS_INLINE Orb32s Reported(int64_t bytes) {
-  return static_cast<Orb32s>(bytes < INT32_MAX ? bytes : INT32_MAX);
-}
-
 template <class Plan>
 OrbStatus GetSize(Orb32s order, Orb32s flag, Orb32s* planSize, Orb32s* initSize, Orb32s* workSize) {
   if (order < 0 || order > kLargestOrderAsked) return StatusFftOrder;
   ORBS_RETURN_IF_BAD(CheckResults(planSize, initSize, workSize));
-  if (!IsFlag(flag)) return StatusFftFlag;
+  if (!IsFftFlag(flag)) return StatusFftFlag;
   if (order > MaxOrder<Plan>()) return StatusFftOrder;
   const auto layout = DescribeFft<typename Plan::Real>(Plan::kForm, order);
-  *planSize = Reported(layout.PlanBytes());
-  *initSize = Reported(layout.InitBytes());
-  *workSize = Reported(layout.WorkBytes());
+  *planSize = ReportedBytes(layout.PlanBytes());
+  *initSize = ReportedBytes(layout.InitBytes());
+  *workSize = ReportedBytes(layout.WorkBytes());
   return StatusOk;
 }
 

@@ -13,25 +13,17 @@ constexpr Orb32s kLargestOrder = 30;  // of any kind; the nested plans know thei
 
 ORBS_INLINE bool IsOrder(Orb32s order) { return order >= 0 && order <= kLargestOrder; }
 
-ORBS_INLINE bool IsFlag(Orb32s flag) {
-  return flag == FftScaleFwdByN || flag == FftScaleInvByN || flag == FftScaleBySqrtN || flag == FftScaleNone;
-}
-
-ORBS_INLINE Orb32s Reported(int64_t bytes) {
-  return static_cast<Orb32s>(bytes < INT32_MAX ? bytes : INT32_MAX);
-}
-
 template <class Spec>
 OrbStatus GetSize(Orb32s order, Orb32s flag, OrbAlgHint hint, Orb32s* planSize, Orb32s* initSize,
                   Orb32s* workSize) {
   if (!IsOrder(order)) return StatusFftOrder;
   ORBS_RETURN_IF_BAD(CheckResults(planSize, initSize, workSize));
-  if (!IsFlag(flag)) return StatusFftFlag;
+  if (!IsFftFlag(flag)) return StatusFftFlag;
   IntegerFftLayout layout;
   ORBS_RETURN_IF_BAD(DescribeIntegerFft<Spec>(order, hint, &layout));
-  *planSize = Reported(layout.PlanBytes());
-  *initSize = Reported(layout.InitBytes());
-  *workSize = Reported(layout.workBytes);
+  *planSize = ReportedBytes(layout.PlanBytes());
+  *initSize = ReportedBytes(layout.InitBytes());
+  *workSize = ReportedBytes(layout.workBytes);
   return StatusOk;
 }
 
@@ -143,7 +135,7 @@ template <class Spec>
 OrbStatus InitAlloc(Spec** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
   if (planOut == nullptr) return StatusNullPointer;
   if (!IsOrder(order)) return StatusFftOrder;
-  if (!IsFlag(flag)) return StatusFftFlag;
+  if (!IsFftFlag(flag)) return StatusFftFlag;
   IntegerFftLayout layout;
   ORBS_RETURN_IF_BAD(DescribeIntegerFft<Spec>(order, hint, &layout));
   if (!layout.Fits()) return StatusMemAlloc;

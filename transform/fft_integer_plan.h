@@ -10,11 +10,9 @@
 #include "frame/variant.h"
 #include "orbs90lgc/types.h"
 #include "transform/fft.h"
+#include "transform/tuning.h"
 
 namespace orbs::ORBS_VARIANT {
-
-// From this order on the 16-bit plans always take the floating-point path.
-inline constexpr Orb32s kFixedPathLimit = kVariant == Variant::px ? 9 : 4;
 
 // Where the tables of the fixed-point path stand, from the record on.
 struct FixedTables {

@@ -3,8 +3,8 @@
 #include "frame/exports.h"
 #include "transform/fft_integer_convert.h"
 #include "transform/fft_integer_fixed.h"
-#include "transform/fft_integer_layouts.h"
 #include "transform/fft_integer_plan.h"
+#include "transform/spectrum_layouts.h"
 #include "transform/work_buffer.h"
 
 namespace orbs::ORBS_VARIANT {
@@ -89,7 +89,7 @@ template <SpectrumLayout layout>
 void InverseFixed(const FftPlan16& plan, const Orb16s* src, Orb16s* dst, Orb32s scaleFactor, Orb32s* data) {
   const Orb32s n = Orb32s{1} << plan.order;
   if constexpr (layout == SpectrumLayout::pack) {
-    ArrangePackToPerm(src, dst, n);
+    ArrangeToPerm<layout>(src, dst, n);
     src = dst;
   }
   VecShiftL_16s32s(src, data, layout == SpectrumLayout::ccs ? n + 1 : n, Headroom(plan));

@@ -40,6 +40,10 @@ struct FftPlan {
 };
 static_assert(sizeof(FftPlan<Orb32f>) == 88 && sizeof(FftPlan<Orb64f>) == 96, "sizes are interface");
 
+ORBS_INLINE bool IsFftFlag(Orb32s flag) {
+  return flag == FftScaleFwdByN || flag == FftScaleInvByN || flag == FftScaleBySqrtN || flag == FftScaleNone;
+}
+
 enum class FftForm { interleaved, split, real };
 
 template <class T, FftForm form, Orb32s id>

@@ -49,6 +49,9 @@ inline constexpr FftTuning kFftTuning = kFftTunings[static_cast<int>(kVariant)];
 // the one-pass ceiling, where all others take one copy of the data.
 inline constexpr bool kReversesPairs64fInPlace = kVariant == Variant::s8;
 
+// From this order on the 16-bit integer plans always take the floating-point path.
+inline constexpr Orb32s kFixedPathLimit = kVariant == Variant::px ? 9 : 4;
+
 // Entries of the fine level of the two-level real tables.
 template <class T>
 inline constexpr int kRealFineEntries = Pick<T>({1024, 512});

@@ -49,7 +49,7 @@ std::string Name(const char* function, Orb32s tapCount) {
 void CompareBlocks32f(Orb32s tapCount, std::initializer_list<Orb32s> sizes) {
   CompareAtSizes(Name("FIR_32f", tapCount), {0, 0, 2.0 * tapCount}, sizes, [=](Comparison& c, Orb32s n) {
     const Orb32f* taps = c.Array<Orb32f>(tapCount, Element<Orb32f>);
-    const Orb32f* src = c.Array<Orb32f>(n, Element<Orb32f>);
+    const Orb32f* src = c.Array<Orb32f>(n + tapCount, Element<Orb32f>);
     Orb32f* dst = c.Array<Orb32f>(n);
     FIRFloatState* state = nullptr;
     legacy90orbsFIRInitAlloc_32f(&state, taps, tapCount, nullptr);
@@ -67,7 +67,7 @@ void CompareBlocks32f(Orb32s tapCount, std::initializer_list<Orb32s> sizes) {
 void CompareBlocks32fc(Orb32s tapCount, std::initializer_list<Orb32s> sizes) {
   CompareAtSizes(Name("FIR_32fc", tapCount), {0, 0, 8.0 * tapCount}, sizes, [=](Comparison& c, Orb32s n) {
     const Orb32fc* taps = c.Array<Orb32fc>(tapCount, Element<Orb32fc>);
-    const Orb32fc* src = c.Array<Orb32fc>(n, Element<Orb32fc>);
+    const Orb32fc* src = c.Array<Orb32fc>(n + tapCount, Element<Orb32fc>);
     Orb32fc* dst = c.Array<Orb32fc>(n);
     FIRFloatState* state = nullptr;
     legacy90orbsFIRInitAlloc_32fc(&state, taps, tapCount, nullptr);
@@ -83,7 +83,7 @@ void CompareBlocks32fc(Orb32s tapCount, std::initializer_list<Orb32s> sizes) {
 void CompareBlocks64f(Orb32s tapCount, std::initializer_list<Orb32s> sizes) {
   CompareAtSizes(Name("FIR_64f", tapCount), {0, 0, 2.0 * tapCount}, sizes, [=](Comparison& c, Orb32s n) {
     const Orb64f* taps = c.Array<Orb64f>(tapCount, Element<Orb64f>);
-    const Orb64f* src = c.Array<Orb64f>(n, Element<Orb64f>);
+    const Orb64f* src = c.Array<Orb64f>(n + tapCount, Element<Orb64f>);
     Orb64f* dst = c.Array<Orb64f>(n);
     FIRFloatState* state = nullptr;
     legacy90orbsFIRInitAlloc_64f(&state, taps, tapCount, nullptr);
@@ -98,7 +98,7 @@ void CompareBlocks64f(Orb32s tapCount, std::initializer_list<Orb32s> sizes) {
 void CompareBlocks16s(Orb32s tapCount, std::initializer_list<Orb32s> sizes) {
   CompareAtSizes(Name("FIR_16s_Sfs", tapCount), {0, 0, 2.0 * tapCount}, sizes, [=](Comparison& c, Orb32s n) {
     const Orb16s* taps = c.Array<Orb16s>(tapCount, Element<Orb16s>);
-    const Orb16s* src = c.Array<Orb16s>(n, Element<Orb16s>);
+    const Orb16s* src = c.Array<Orb16s>(n + tapCount, Element<Orb16s>);
     Orb16s* dst = c.Array<Orb16s>(n);
     FIRIntState* state = nullptr;
     legacy90orbsFIRInitAlloc_16s(&state, taps, tapCount, -15, nullptr);
@@ -115,7 +115,7 @@ void CompareBlocks32f16s(Orb32s tapCount, std::initializer_list<Orb32s> sizes) {
   CompareAtSizes(Name("FIR32f_16s_Sfs", tapCount), {0, 0, 2.0 * tapCount}, sizes,
                  [=](Comparison& c, Orb32s n) {
                    const Orb32f* taps = c.Array<Orb32f>(tapCount, Element<Orb32f>);
-                   const Orb16s* src = c.Array<Orb16s>(n, Element<Orb16s>);
+                   const Orb16s* src = c.Array<Orb16s>(n + tapCount, Element<Orb16s>);
                    Orb16s* dst = c.Array<Orb16s>(n);
                    FIRFloatState* state = nullptr;
                    legacy90orbsFIRInitAlloc32f_16s(&state, taps, tapCount, nullptr);

@@ -30,12 +30,12 @@ template <class T, class Sum, class DeliverSum>
 Call LoopOf(const T* taps, Orb32s tapCount, const T* src, T* dst, Orb32s n, DeliverSum deliver) {
   constexpr Orb32s kStretch = 512;
   return [=] {
-    for (Orb32s first = tapCount - 1; first < n; first += kStretch) {
+    for (Orb32s first = 0; first < n; first += kStretch) {
       const Orb32s count = n - first < kStretch ? n - first : kStretch;
       Sum sums[kStretch] = {};
       for (Orb32s k = 0; k < tapCount; ++k) {
         const Sum h = taps[k];
-        const T* const x = src + first - k;
+        const T* const x = src + first + tapCount - 1 - k;
         for (Orb32s i = 0; i < count; ++i) sums[i] += h * static_cast<Sum>(x[i]);
       }
       for (Orb32s i = 0; i < count; ++i) dst[first + i] = deliver(sums[i]);
@@ -77,17 +77,16 @@ Call LiquidByTransform(const Orb32f* taps, Orb32s tapCount, const Orb32f* src, O
 
 Call VolkDots(const Orb32f* taps, Orb32s tapCount, const Orb32f* src, Orb32f* dst, Orb32s n) {
   return [=, reversed = Reversed(taps, tapCount)] {
-    for (Orb32s i = tapCount - 1; i < n; ++i) {
-      volk_32f_x2_dot_prod_32f(dst + i, src + i - tapCount + 1, reversed.data(),
-                               static_cast<unsigned>(tapCount));
+    for (Orb32s i = 0; i < n; ++i) {
+      volk_32f_x2_dot_prod_32f(dst + i, src + i, reversed.data(), static_cast<unsigned>(tapCount));
     }
   };
 }
 Call VolkDots(const Orb32fc* taps, Orb32s tapCount, const Orb32fc* src, Orb32fc* dst, Orb32s n) {
   return [=, reversed = Reversed(taps, tapCount)] {
-    for (Orb32s i = tapCount - 1; i < n; ++i) {
-      volk_32fc_x2_dot_prod_32fc(reinterpret_cast<lv_32fc_t*>(dst + i), Volk(src + i - tapCount + 1),
-                                 Volk(reversed.data()), static_cast<unsigned>(tapCount));
+    for (Orb32s i = 0; i < n; ++i) {
+      volk_32fc_x2_dot_prod_32fc(reinterpret_cast<lv_32fc_t*>(dst + i), Volk(src + i), Volk(reversed.data()),
+                                 static_cast<unsigned>(tapCount));
     }
   };
 }

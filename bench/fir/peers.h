@@ -17,11 +17,11 @@ Call LiquidBlock(const Orb32fc* taps, Orb32s tapCount, const Orb32fc* src, Orb32
 Call LiquidOne(const Orb32f* taps, Orb32s tapCount, const Orb32f* src, Orb32f* dst);
 Call LiquidByTransform(const Orb32f* taps, Orb32s tapCount, const Orb32f* src, Orb32f* dst, Orb32s n);
 
-// A dot product of VOLK for each output. The first tapCount - 1 outputs are left out.
+// A dot product of VOLK for each output. In src the tapCount - 1 samples before the block come first.
 Call VolkDots(const Orb32f* taps, Orb32s tapCount, const Orb32f* src, Orb32f* dst, Orb32s n);
 Call VolkDots(const Orb32fc* taps, Orb32s tapCount, const Orb32fc* src, Orb32fc* dst, Orb32s n);
 
-// The formula in two loops, compiled with -O3 and all instructions of the building machine.
+// The formula in two loops, compiled with -O3 and all instructions of the building machine. src as above.
 Call Loop(const Orb32f* taps, Orb32s tapCount, const Orb32f* src, Orb32f* dst, Orb32s n);
 Call Loop(const Orb64f* taps, Orb32s tapCount, const Orb64f* src, Orb64f* dst, Orb32s n);
 Call Loop(const Orb16s* taps, Orb32s tapCount, const Orb16s* src, Orb16s* dst, Orb32s n);
