@@ -23,9 +23,6 @@ set(ORBS_VARIANT_SOURCES
     fir/one.cpp
     gen/blackman.cpp
     gen/companding.cpp
-    modem/fm.cpp
-    modem/goertzel.cpp
-    modem/viterbi.cpp
     gen/jaehne.cpp
     gen/kaiser.cpp
     gen/ramp.cpp
@@ -36,6 +33,9 @@ set(ORBS_VARIANT_SOURCES
     gen/tone_q15.cpp
     gen/triangle.cpp
     gen/triangle_q15.cpp
+    modem/fm.cpp
+    modem/goertzel.cpp
+    modem/viterbi.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp
     transform/fft_init.cpp
