@@ -3,6 +3,7 @@
 #include "fir/direct_kernels.h"
 #include "fir/integer_kernels.h"
 #include "fir/integer_state.h"
+#include "frame/blocks.h"
 #include "frame/exports.h"
 #include "frame/memory.h"
 

@@ -11,31 +11,12 @@ namespace orbs::ORBS_VARIANT {
 
 #if ORBS_VECTOR
 
-template <class V>
-struct LaneMasks {
-  using Lane = typename V::Lane;
-  using Bits =
-      std::conditional_t<sizeof(Lane) == 2, Orb16s, std::conditional_t<sizeof(Lane) == 4, Orb32s, Orb64s>>;
-  // Ones, zeros, ones.
-  Bits bits[3 * V::kLanes] = {};
-  constexpr LaneMasks() {
-    for (int i = 0; i < V::kLanes; ++i) bits[i] = bits[2 * V::kLanes + i] = -1;
-  }
-};
-template <class V>
-ORBS_INLINE V LaneMask(size_t first) {
-  static constexpr LaneMasks<V> kMasks;
-  return V::Load(reinterpret_cast<const typename V::Lane*>(kMasks.bits + first));
-}
-
-// The first or the last `count` lanes of a vector, 0 < count < kLanes, and zeros.
+// The first `count` lanes of a vector, 0 < count < kLanes, and zeros.
 template <class V>
 ORBS_INLINE V FirstLanes(V a, size_t count) {
-  return a & LaneMask<V>(V::kLanes - count);
-}
-template <class V>
-ORBS_INLINE V LastLanes(V a, size_t count) {
-  return a & LaneMask<V>(V::kLanes + count);
+  using Bits = std::conditional_t<sizeof(typename V::Lane) == 4, Orb32s, Orb64s>;
+  static constexpr Bits kMask[16] = {-1, -1, -1, -1, -1, -1, -1, -1};
+  return a & V::Load(reinterpret_cast<const typename V::Lane*>(kMask + 8 - count));
 }
 
 ORBS_INLINE void LoadSamples(const Orb32f* p, F32* out) { *out = F32::Load(p); }
