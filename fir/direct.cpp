@@ -27,6 +27,7 @@ struct FloatDirect {
 
 #if ORBS_VECTOR
   static constexpr bool kReadsSource = !Kind::kWidens;
+  static_assert(kDirectFewOutputs * kParts >= VectorOf<PartOf<Tap>>::kLanes);
 
   void Outputs(const Data* x, Data* dst, int64_t count) const {
     if constexpr (kReadsSource) {
