@@ -19,8 +19,23 @@ set(ORBS_VARIANT_SOURCES
     fir/float_init.cpp
     fir/integer.cpp
     fir/integer_state.cpp
+    fir/lms.cpp
     fir/one.cpp
+    gen/blackman.cpp
     gen/companding.cpp
+    modem/fm.cpp
+    modem/goertzel.cpp
+    modem/viterbi.cpp
+    gen/jaehne.cpp
+    gen/kaiser.cpp
+    gen/ramp.cpp
+    gen/random_gauss.cpp
+    gen/random_uniform.cpp
+    gen/slope.cpp
+    gen/tone.cpp
+    gen/tone_q15.cpp
+    gen/triangle.cpp
+    gen/triangle_q15.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp
     transform/fft_init.cpp

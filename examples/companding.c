@@ -9,10 +9,9 @@
  *
  * With the library and libsndfile installed:
  *
- *   cc -o companding companding.c failure.c levels.c speech.c $(pkg-config --cflags --libs orbs90lgc sndfile)
- * -lm
+ *   cc -o companding companding.c failure.c levels.c speech.c \
+ *     $(pkg-config --cflags --libs orbs90lgc sndfile) -lm
  */
-#include <math.h>
 #include <orbs90lgc.h>
 #include <sndfile.h>
 #include <stdio.h>
@@ -66,19 +65,6 @@ static void PrintVariant(void) {
   }
 }
 
-/* Full scale 1.0 is 32768; ties go away from zero, as the library's encoders of float samples round. */
-static Orb16s ToInteger(Orb32f sample) {
-  const Orb32f scaled = roundf(sample * 32768.0f);
-  if (scaled >= 32767.0f) return 32767;
-  return (Orb16s)(scaled > -32768.0f ? scaled : -32768.0f); /* NaN, too, becomes -32768 */
-}
-
-static Orb16s* ToIntegers(const Speech* speech) {
-  Orb16s* integers = Allocate((size_t)speech->count, sizeof *integers);
-  for (Orb32s i = 0; i < speech->count; ++i) integers[i] = ToInteger(speech->samples[i]);
-  return integers;
-}
-
 /* Codes the speech, keeps the codes as a WAV file and returns what its listener hears. */
 static Orb16s* CodeAndDecode(const Law* law, const Speech* speech, const Orb16s* integers,
                              const char* folder) {
@@ -120,7 +106,8 @@ int main(int argc, char** argv) {
   putchar('\n');
   PrintVariant();
 
-  Orb16s* integers = ToIntegers(&speech);
+  Orb16s* integers = Allocate((size_t)speech.count, sizeof *integers);
+  ToIntegers(speech.samples, integers, speech.count);
   Orb16s* decoded[kLaws];
   const char* names[kLaws];
   for (int law = 0; law < kLaws; ++law) {

@@ -1,8 +1,8 @@
 // The inner products of a run of outputs: y[i] = sum over k of taps[k] x[i + k], real or complex.
 //
-// A vector holds neighbouring outputs, each tap is broadcast: no sum runs across a vector, and an output's
-// terms are added in the order of k. Complex sums are kept in two parts, of h.re x and of h.im x, so that the
-// swap of real and imaginary part is made once an output and not once a term:
+// A vector holds neighbouring outputs, each tap is broadcast: no sum runs across a vector. Complex sums are
+// kept in two parts, of h.re x and of h.im x, so that the swap of real and imaginary part is made once an
+// output and not once a term:
 //   y = a + (-b.im, b.re),   a = sum h.re x,   b = sum h.im x
 //
 // kTapStep is 1 where the taps are stored reversed, and -1 for taps in natural order, of which the last is
@@ -24,26 +24,88 @@ ORBS_INLINE V AddRotated(V a, V b) {
   return a + (SwapPairs(b) ^ EvenSigns(static_cast<V*>(nullptr)));
 }
 
-// kVectors vectors of outputs from x on; stride between terms is one element, kParts parts.
-template <int kParts, int kTapStep, int kVectors, class V, class Part>
-ORBS_INLINE void FirTile(const Part* x, const Part* taps, size_t n, V (&y)[kVectors]) {
-  V a[kVectors];
-  V b[kVectors];
-  ORBS_UNROLL
-  for (int v = 0; v < kVectors; ++v) a[v] = b[v] = V::Zero();
-  for (size_t k = 0; k < n; ++k, x += kParts) {
-    const Part* const tap = taps + static_cast<ptrdiff_t>(k) * kTapStep * kParts;
-    const V re = V::All(tap[0]);
+// 16 vector registers: eight sums of a real tile leave room for the taps and the loads, and eight in flight
+// keep two multiply-adders of four cycles busy. A complex tile of four vectors has eight sums too.
+template <int kParts>
+inline constexpr int kFirTileVectors = kParts == 1 ? 8 : 4;
+
+// The sums of a tile: kVectors vectors of outputs. A tile of half the size has them twice, to keep as many in
+// flight.
+template <int kParts, int kTapStep, int kVectors, class V>
+struct FirTileSums {
+  using Part = typename V::Lane;
+  static constexpr size_t kLanes = V::kLanes;
+  static constexpr int kSets = kFirTileVectors<kParts> / kVectors;
+
+  V a[kSets][kVectors];  // by real parts of the taps
+  V b[kSets][kVectors];  // by imaginary parts
+
+  ORBS_INLINE FirTileSums() {
     ORBS_UNROLL
-    for (int v = 0; v < kVectors; ++v) a[v] = MulAdd(re, V::Load(x + v * V::kLanes), a[v]);
-    if constexpr (kParts == 2) {
-      const V im = V::All(tap[1]);
+    for (int v = 0; v < kSets * kVectors; ++v)
+      a[v / kVectors][v % kVectors] = b[v / kVectors][v % kVectors] = V::Zero();
+  }
+
+  ORBS_INLINE V Output(int v) const {
+    V re = a[0][v];
+    V im = b[0][v];
+    ORBS_UNROLL
+    for (int set = 1; set < kSets; ++set) {
+      re = re + a[set][v];
+      im = im + b[set][v];
+    }
+    return kParts == 2 ? AddRotated(re, im) : re;
+  }
+
+  // kShared terms of each output whose samples lie one vector apart: what is the second term's sample for one
+  // vector of outputs is the first term's for the next, so that a load serves kShared multiply-adds.
+  template <int kShared>
+  ORBS_INLINE void Add(const Part* x, const Part* taps) {
+    V re[kShared];
+    V im[kShared];
+    ORBS_UNROLL
+    for (int s = 0; s < kShared; ++s) {
+      const Part* const tap = taps + s * kTapStep * static_cast<ptrdiff_t>(kLanes);
+      re[s] = V::All(tap[0]);
+      im[s] = kParts == 2 ? V::All(tap[kParts - 1]) : V::Zero();
+    }
+    ORBS_UNROLL
+    for (int load = 0; load < kVectors + kShared - 1; ++load) {
+      const V samples = LoadOnce<V>(x + static_cast<size_t>(load) * kLanes);
       ORBS_UNROLL
-      for (int v = 0; v < kVectors; ++v) b[v] = MulAdd(im, V::Load(x + v * V::kLanes), b[v]);
+      for (int s = 0; s < kShared; ++s) {
+        const int v = load - s;
+        if (v < 0 || v >= kVectors) continue;
+        const int set = s % kSets;
+        a[set][v] = MulAdd(re[s], samples, a[set][v]);
+        if constexpr (kParts == 2) b[set][v] = MulAdd(im[s], samples, b[set][v]);
+      }
     }
   }
+};
+
+// kVectors vectors of outputs from x on; stride between terms is one element, kParts parts. Loads of samples
+// cross cache lines half of the time and then count twice: with a load for each multiply-add they are the
+// limit, with one for two they are not.
+template <int kParts, int kTapStep, int kVectors, class V, class Part>
+ORBS_INLINE void FirTile(const Part* x, const Part* taps, size_t n, V (&y)[kVectors]) {
+  constexpr size_t kShared = 2;
+  constexpr size_t kElements = V::kLanes / kParts;
+  FirTileSums<kParts, kTapStep, kVectors, V> sums;
+  constexpr ptrdiff_t kStep = kTapStep * kParts;
+  for (; n >= kShared * kElements; n -= kShared * kElements) {
+    for (size_t j = 0; j < kElements; ++j, x += kParts, taps += kStep) sums.template Add<kShared>(x, taps);
+    x += (kShared - 1) * V::kLanes;
+    taps += static_cast<ptrdiff_t>(kShared - 1) * kTapStep * V::kLanes;
+  }
+  size_t singles = n;
+  if (n > kElements) {
+    singles = 2 * kElements - n;
+    for (; n > kElements; --n, x += kParts, taps += kStep) sums.template Add<kShared>(x, taps);
+  }
+  for (; singles > 0; --singles, x += kParts, taps += kStep) sums.template Add<1>(x, taps);
   ORBS_UNROLL
-  for (int v = 0; v < kVectors; ++v) y[v] = kParts == 2 ? AddRotated(a[v], b[v]) : a[v];
+  for (int v = 0; v < kVectors; ++v) y[v] = sums.Output(v);
 }
 
 // One vector of outputs leaves the multiply-adders waiting for each other: the terms take turns in four sums.
@@ -69,11 +131,6 @@ ORBS_INLINE V FirVector(const Part* x, const Part* taps, size_t n) {
   const V re = (a[0] + a[1]) + (a[2] + a[3]);
   return kParts == 2 ? AddRotated(re, (b[0] + b[1]) + (b[2] + b[3])) : re;
 }
-
-// 16 vector registers: eight sums of a real tile leave room for the tap and the loads, and eight in flight
-// keep two multiply-adders of four cycles busy. A complex tile of four vectors has eight sums too.
-template <int kParts>
-inline constexpr int kFirTileVectors = kParts == 1 ? 8 : 4;
 
 // `count` outputs. Reads whole vectors: where count is below a vector, up to a vector's end behind x[n-1].
 template <int kTapStep = 1, class Tap>

@@ -3,6 +3,8 @@
 #ifndef ORBS_FRAME_CHECKS_H
 #define ORBS_FRAME_CHECKS_H
 
+#include <cstring>
+
 #include "frame/variant.h"
 #include "orbs90lgc/status.h"
 #include "orbs90lgc/types.h"
@@ -14,8 +16,11 @@ ORBS_INLINE bool AnyNull(const Pointers*... pointers) {
   return ((pointers == nullptr) || ...);
 }
 
+// By a copy, since some records stand in the caller's memory at any address.
 ORBS_INLINE bool HasIdentity(const void* record, Orb32s identity) {
-  return *static_cast<const Orb32s*>(record) == identity;
+  Orb32s found;
+  std::memcpy(&found, record, sizeof found);
+  return found == identity;
 }
 
 // A stateless function, first part: all data pointers, then the count. Its own parameters follow in argument

@@ -139,6 +139,37 @@ ORBS_INLINE Result FloatHalfAway(Float y) {
 
 // ---- The factor 2^-s ----
 
+ORBS_INLINE float FloatFromBits(uint32_t bits) {
+  float value;
+  std::memcpy(&value, &bits, sizeof value);
+  return value;
+}
+
+ORBS_INLINE double DoubleFromBits(uint64_t bits) {
+  double value;
+  std::memcpy(&value, &bits, sizeof value);
+  return value;
+}
+
+// 2^exponent for the exponents of normal numbers, put together from its bits: the library's ldexp takes
+// longer than a short array takes to be scaled.
+template <class Float>
+ORBS_INLINE Float PowerOfTwoFromBits(int exponent) {
+  if constexpr (sizeof(Float) == 4) {
+    return FloatFromBits(static_cast<uint32_t>(127 + exponent) << 23);
+  } else if constexpr (sizeof(Float) == 8) {
+    return DoubleFromBits(static_cast<uint64_t>(1023 + exponent) << 52);
+  } else {
+    // Extended precision stores its leading 1.
+    const uint64_t significand = uint64_t{1} << 63;
+    const auto biased = static_cast<uint16_t>(16383 + exponent);
+    Float value = 0;
+    std::memcpy(&value, &significand, sizeof significand);
+    std::memcpy(reinterpret_cast<unsigned char*>(&value) + sizeof significand, &biased, sizeof biased);
+    return value;
+  }
+}
+
 // 2^-s as a product of two powers of two, each a normal number of the type: enough to carry any finite value
 // of binary32 (or binary64 in a wider type) beyond every integer bound or down to nothing, and never 0 or
 // infinity, so that 0 stays 0. `second` is 1 unless s is beyond the type's exponents.
@@ -159,19 +190,7 @@ ORBS_INLINE PowerOfTwo<Float> InversePowerOfTwo(Orb32s s) {
   };
   const Orb64s exponent = -static_cast<Orb64s>(s);
   const int first = clamp(exponent);
-  return {static_cast<Float>(ldexpl(1.0L, first)), static_cast<Float>(ldexpl(1.0L, clamp(exponent - first)))};
-}
-
-ORBS_INLINE float FloatFromBits(uint32_t bits) {
-  float value;
-  std::memcpy(&value, &bits, sizeof value);
-  return value;
-}
-
-ORBS_INLINE double DoubleFromBits(uint64_t bits) {
-  double value;
-  std::memcpy(&value, &bits, sizeof value);
-  return value;
+  return {PowerOfTwoFromBits<Float>(first), PowerOfTwoFromBits<Float>(clamp(exponent - first))};
 }
 
 // 2^-s from the exponent field of binary32 with |s| taken modulo 128: the element-by-element paths of the

@@ -63,6 +63,15 @@ struct VectorFor<Orb64f> {
 template <class Lane>
 using VectorOf = typename VectorFor<Lane>::Type;
 
+// A loaded vector that is used more than once: the compiler would rather name the memory again in each use,
+// which is a load each.
+template <class V>
+ORBS_INLINE V LoadOnce(const typename V::Lane* p) {
+  V x = V::Load(p);
+  asm("" : "+x"(x.v));
+  return x;
+}
+
 // Complex product of interleaved pairs: (a.re b.re - a.im b.im, a.re b.im + a.im b.re).
 template <class V>
 ORBS_INLINE V MulComplex(V a, V b) {

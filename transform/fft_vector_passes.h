@@ -25,15 +25,45 @@ inline constexpr int kPairs = VectorOf<T>::kLanes / 2;
 
 // ---- Butterflies ----
 
-// v times the twiddle w, or its conjugate.
+// v times the twiddle with these parts, each in both lanes of a pair, or times its conjugate.
+template <bool kForward, class V>
+ORBS_INLINE V TwiddleByParts(V v, V re, V im) {
+  const V cross = im * SwapPairs(v);
+  return kForward ? MulAddSub(re, v, cross) : MulSubAdd(re, v, cross);
+}
 template <bool kForward, class V>
 ORBS_INLINE V Twiddle(V v, V w) {
-  if constexpr (kForward) {
-    return MulComplex(w, v);
-  } else {
-    return MulConjugate(v, w);
-  }
+  return TwiddleByParts<kForward>(v, DupEven(w), DupOdd(w));
 }
+
+// Twiddles are read twice, once for the real and once for the imaginary part of each pair: from AVX on a load
+// that doubles lanes takes no shuffle unit, and those are the units that a pass waits for. The compiler, left
+// to itself, loads once and shuffles twice; two pointers that it cannot know to be equal keep it from that.
+template <class T>
+struct TwiddleReader {
+  using V = VectorOf<T>;
+  const T* forReal;
+  const T* forImaginary;
+
+  ORBS_INLINE explicit TwiddleReader(const T* twiddles) : forReal(twiddles), forImaginary(twiddles) {
+#ifdef __AVX__
+    asm("" : "+r"(forImaginary));
+#endif
+  }
+
+  // v times the vector of twiddles at `entry`, or their conjugates.
+  template <bool kForward>
+  ORBS_INLINE V Times(V v, int entry) const {
+    const V re = DupEven(V::Load(forReal + entry * V::kLanes));
+    const V im = DupOdd(V::Load(forImaginary + entry * V::kLanes));
+    return TwiddleByParts<kForward>(v, re, im);
+  }
+
+  ORBS_INLINE void Advance(int entries) {
+    forReal += entries * V::kLanes;
+    forImaginary += entries * V::kLanes;
+  }
+};
 
 // v times -i, or i.
 template <bool kForward, class V>
@@ -42,17 +72,37 @@ ORBS_INLINE V TurnQuarter(V v) {
   return SwapPairs(v) ^ (kForward ? OddSigns(type) : EvenSigns(type));
 }
 
+// a + t and a - t, t being v times -i, or i. A fused multiply-add by 1 has the alternating signs at hand.
+template <class V>
+struct Turned {
+  V sum;
+  V difference;
+};
+template <bool kForward, class V>
+ORBS_INLINE Turned<V> AddTurned(V a, V v) {
+#ifdef __FMA__
+  const V one = V::All(1);
+  const V swapped = SwapPairs(v);
+  const V plus = MulSubAdd(a, one, swapped);   // a - i v
+  const V minus = MulAddSub(a, one, swapped);  // a + i v
+  return kForward ? Turned<V>{plus, minus} : Turned<V>{minus, plus};
+#else
+  const V t = TurnQuarter<kForward>(v);
+  return {a + t, a - t};
+#endif
+}
+
 // In: x[m], residue m of the index; out: x[k], frequency k.
 template <bool kForward, class V>
 ORBS_INLINE void Butterfly(V (&x)[4]) {
   const V s = x[0] + x[2];
   const V d = x[0] - x[2];
   const V u = x[1] + x[3];
-  const V v = TurnQuarter<kForward>(x[1] - x[3]);
+  const Turned<V> odd = AddTurned<kForward>(d, x[1] - x[3]);
   x[0] = s + u;
-  x[1] = d + v;
+  x[1] = odd.sum;
   x[2] = s - u;
-  x[3] = d - v;
+  x[3] = odd.difference;
 }
 
 template <bool kForward, class V>
@@ -61,19 +111,19 @@ ORBS_INLINE void Butterfly(V (&x)[8]) {
   V odd[4] = {x[1], x[3], x[5], x[7]};
   Butterfly<kForward>(even);
   Butterfly<kForward>(odd);
-  // Eighth turns are (1 -+ i)/sqrt(2) and (-1 -+ i)/sqrt(2): a quarter turn, a sum and one constant.
+  // Eighth turns are (1 -+ i)/sqrt(2) and -(1 +- i)/sqrt(2): a quarter turn, a sum and one constant.
   const V rootHalf = V::All(static_cast<typename V::Lane>(0.70710678118654752440));
-  const V eighth = odd[1] + TurnQuarter<kForward>(odd[1]);
-  const V quarter = TurnQuarter<kForward>(odd[2]);
-  const V threeEighths = TurnQuarter<kForward>(odd[3]) - odd[3];
+  const V eighth = AddTurned<kForward>(odd[1], odd[1]).sum;
+  const Turned<V> quarter = AddTurned<kForward>(even[2], odd[2]);
+  const V minusThreeEighths = AddTurned<kForward>(odd[3], odd[3]).difference;
   x[0] = even[0] + odd[0];
   x[4] = even[0] - odd[0];
   x[1] = MulAdd(rootHalf, eighth, even[1]);
   x[5] = NegMulAdd(rootHalf, eighth, even[1]);
-  x[2] = even[2] + quarter;
-  x[6] = even[2] - quarter;
-  x[3] = MulAdd(rootHalf, threeEighths, even[3]);
-  x[7] = NegMulAdd(rootHalf, threeEighths, even[3]);
+  x[2] = quarter.sum;
+  x[6] = quarter.difference;
+  x[3] = NegMulAdd(rootHalf, minusThreeEighths, even[3]);
+  x[7] = MulAdd(rootHalf, minusThreeEighths, even[3]);
 }
 
 // ---- A vector of pairs at point i ----
@@ -173,23 +223,48 @@ ORBS_INLINE void FirstPassOfReversed(T* data, size_t n, T scale) {
 // One row: kRadix blocks of q points become one block.
 template <int kRadix, bool kForward, class Source, class Result, class T>
 ORBS_INLINE void RowPass(Source src, Result dst, size_t q, const T* twiddles) {
-  using V = VectorOf<T>;
+  TwiddleReader<T> reader(twiddles);
   for (size_t k = 0; k < q; k += kPairs<T>) {
-    V x[kRadix];
+    VectorOf<T> x[kRadix];
     x[0] = LoadPoints(src, k);
-    ORBS_UNROLL for (int m = 1; m < kRadix; ++m) {
-      const V w = V::Load(twiddles + (m - 1) * V::kLanes);
-      x[m] = Twiddle<kForward>(LoadPoints(src, k + kReversedDigit[kRadix][m] * q), w);
-    }
-    twiddles += (kRadix - 1) * V::kLanes;
+    ORBS_UNROLL for (int m = 1; m < kRadix; ++m) x[m] =
+        reader.template Times<kForward>(LoadPoints(src, k + kReversedDigit[kRadix][m] * q), m - 1);
+    reader.Advance(kRadix - 1);
     Butterfly<kForward>(x);
     ORBS_UNROLL for (size_t m = 0; m < kRadix; ++m) StorePoints(dst, k + m * q, x[m]);
   }
 }
 
-// All rows of n points, in place.
+// The same points of all rows of n points: their three twiddles stay in registers.
+template <bool kForward, class Data, class T>
+ORBS_INLINE void ColumnOfFours(Data data, size_t n, size_t q, const T* twiddles) {
+  using V = VectorOf<T>;
+  V re[3];
+  V im[3];
+  ORBS_UNROLL for (int m = 0; m < 3; ++m) {
+    const V w = V::Load(twiddles + m * V::kLanes);
+    re[m] = DupEven(w);
+    im[m] = DupOdd(w);
+  }
+  for (size_t i = 0; i < n; i += 4 * q) {
+    V x[4];
+    x[0] = LoadPoints(data, i);
+    ORBS_UNROLL for (int m = 1; m < 4; ++m) x[m] =
+        TwiddleByParts<kForward>(LoadPoints(data, i + kReversedDigit[4][m] * q), re[m - 1], im[m - 1]);
+    Butterfly<kForward>(x);
+    ORBS_UNROLL for (size_t m = 0; m < 4; ++m) StorePoints(data, i + m * q, x[m]);
+  }
+}
+
+// All rows of n points, in place. Passes of radix 4 come where rows are short and many: they go by columns.
 template <int kRadix, bool kForward, class Data, class T>
 ORBS_INLINE void Pass(Data data, size_t n, size_t q, const T* twiddles) {
+  if constexpr (kRadix == 4) {
+    for (size_t k = 0; k < q; k += kPairs<T>, twiddles += 3 * VectorOf<T>::kLanes) {
+      ColumnOfFours<kForward>(data.At(static_cast<Index>(k)), n, q, twiddles);
+    }
+    return;
+  }
   for (size_t row = 0; row < n; row += kRadix * q) {
     const Data points = data.At(static_cast<Index>(row));
     RowPass<kRadix, kForward>(points, points, q, twiddles);

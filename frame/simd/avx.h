@@ -65,6 +65,8 @@ ORBS_INLINE F32x8 MulAddSub(F32x8 a, F32x8 b, F32x8 c) { return {_mm256_addsub_p
 ORBS_INLINE F64x4 MulAddSub(F64x4 a, F64x4 b, F64x4 c) { return {_mm256_addsub_pd((a * b).v, c.v)}; }
 #endif
 
+ORBS_INLINE F32x8 ReciprocalEstimate(F32x8 a) { return {_mm256_rcp_ps(a.v)}; }
+
 ORBS_INLINE F32x8 DupEven(F32x8 a) { return {_mm256_moveldup_ps(a.v)}; }
 ORBS_INLINE F32x8 DupOdd(F32x8 a) { return {_mm256_movehdup_ps(a.v)}; }
 ORBS_INLINE F32x8 SwapPairs(F32x8 a) { return {_mm256_permute_ps(a.v, _MM_SHUFFLE(2, 3, 0, 1))}; }
@@ -440,6 +442,13 @@ ORBS_INLINE F32x8 Narrow(F64x4 low, F64x4 high) {
 }
 ORBS_INLINE void StoreRounded(Orb32s* p, F64x4 a) { I32x4{_mm256_cvtpd_epi32(a.v)}.Store(p); }
 ORBS_INLINE void StoreTruncated(Orb32s* p, F64x4 a) { I32x4{_mm256_cvttpd_epi32(a.v)}.Store(p); }
+ORBS_INLINE I32x8 TruncateToInt(F64x4 low, F64x4 high) {
+#ifdef __AVX2__
+  return {_mm256_set_m128i(_mm256_cvttpd_epi32(high.v), _mm256_cvttpd_epi32(low.v))};
+#else
+  return {{_mm256_cvttpd_epi32(low.v)}, {_mm256_cvttpd_epi32(high.v)}};
+#endif
+}
 
 }  // namespace orbs::ORBS_VARIANT
 

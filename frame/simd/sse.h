@@ -115,6 +115,9 @@ ORBS_INLINE F32x4 NegMulAdd(F32x4 a, F32x4 b, F32x4 c) { return c - a * b; }
 ORBS_INLINE F64x2 NegMulAdd(F64x2 a, F64x2 b, F64x2 c) { return c - a * b; }
 #endif
 
+// 1 / a within 1.5 * 2^-12.
+ORBS_INLINE F32x4 ReciprocalEstimate(F32x4 a) { return {_mm_rcp_ps(a.v)}; }
+
 // Even lanes over odd ones, odd over even, pairs swapped, the order of lanes or of pairs reversed.
 #ifdef __SSE3__
 ORBS_INLINE F32x4 DupEven(F32x4 a) { return {_mm_moveldup_ps(a.v)}; }
@@ -241,6 +244,12 @@ ORBS_INLINE I32x4 operator*(I32x4 a, I32x4 b) {
 ORBS_INLINE F32x4 AsFloat(I32x4 a) { return {_mm_castsi128_ps(a.v)}; }
 ORBS_INLINE I32x4 AsInt(F32x4 a) { return {_mm_castps_si128(a.v)}; }
 
+// Lane j from lane (j + n) mod 4.
+template <int n>
+ORBS_INLINE I32x4 TurnLanes(I32x4 a) {
+  return {_mm_shuffle_epi32(a.v, _MM_SHUFFLE((n + 3) & 3, (n + 2) & 3, (n + 1) & 3, n & 3))};
+}
+
 // ---- 16-bit integers ----
 
 ORBS_INLINE I16x8 operator+(I16x8 a, I16x8 b) { return {_mm_add_epi16(a.v, b.v)}; }
@@ -361,6 +370,9 @@ ORBS_INLINE void StoreRounded(Orb32s* p, F64x2 a) {
 }
 ORBS_INLINE void StoreTruncated(Orb32s* p, F64x2 a) {
   _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_cvttpd_epi32(a.v));
+}
+ORBS_INLINE I32x4 TruncateToInt(F64x2 low, F64x2 high) {
+  return {_mm_unpacklo_epi64(_mm_cvttpd_epi32(low.v), _mm_cvttpd_epi32(high.v))};
 }
 
 // Two vectors narrowed to one with saturation, in order.

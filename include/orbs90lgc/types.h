@@ -114,6 +114,8 @@ typedef struct FFTSpec_R_16s32s FFTSpec_R_16s32s; /**< 16-bit real signals with 
  */
 typedef struct FIRFloatState FIRFloatState; /**< FIR filter with floating-point taps. See fir.h. */
 typedef struct FIRIntState FIRIntState;     /**< FIR filter with integer taps. See fir.h. */
+typedef struct ToneState ToneState;         /**< Tone generator. See tone.h. */
+typedef struct TriangleState TriangleState; /**< Triangle generator. See triangle.h. */
 /** @} */
 
 /** The version record that legacy90orbsGetLibVersion() points to. Static: never free or change it. */

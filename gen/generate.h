@@ -1,0 +1,51 @@
+// Walks a result array whose elements are functions of their index.
+#ifndef ORBS_GEN_GENERATE_H
+#define ORBS_GEN_GENERATE_H
+
+#include "frame/blocks.h"
+#include "frame/simd.h"
+
+#if ORBS_VECTOR
+
+namespace orbs::ORBS_VARIANT {
+
+// operation(d, first) writes kBlock elements behind d, those of the indices from `first` on. The last block
+// of an array is written over the end of the one before; an array below one block gets the front of a block,
+// so an operation may be asked for indices that the array does not have.
+template <int kBlock, class Result, class Operation>
+ORBS_INLINE void GenerateBlocks(Result* dst, Orb32s len, Operation operation) {
+  if (len >= kBlock) {
+    const Orb32s lastBlock = len - kBlock;
+    Orb32s first = 0;
+    // A sum beyond lastBlock is at most len, which fits.
+    for (; first <= lastBlock; first += kBlock) operation(dst + first, first);
+    if (first < len) operation(dst + lastBlock, lastBlock);
+  } else {
+    Result results[kBlock];
+    operation(results, 0);
+    CopyFew<kBlock * sizeof(Result) / 2>(dst, results, static_cast<size_t>(len));
+  }
+}
+
+// 0, 1, 2 ...
+ORBS_INLINE I32 LaneNumbers(I32*) {
+  static constexpr Orb32s kNumbers[8] = {0, 1, 2, 3, 4, 5, 6, 7};
+  return I32::Load(kNumbers);
+}
+ORBS_INLINE F32 LaneNumbers(F32*) {
+  static constexpr Orb32f kNumbers[8] = {0, 1, 2, 3, 4, 5, 6, 7};
+  return F32::Load(kNumbers);
+}
+ORBS_INLINE F64 LaneNumbers(F64*) {
+  static constexpr Orb64f kNumbers[4] = {0, 1, 2, 3};
+  return F64::Load(kNumbers);
+}
+template <class Vector>
+ORBS_INLINE Vector LaneNumbers() {
+  return LaneNumbers(static_cast<Vector*>(nullptr));
+}
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif
+#endif

@@ -1,0 +1,55 @@
+// Vectors of binary64 numbers to random elements of the three types.
+#ifndef ORBS_GEN_RANDOM_DELIVER_H
+#define ORBS_GEN_RANDOM_DELIVER_H
+
+#include <cstring>
+
+#include "gen/random_sequence.h"
+
+#if ORBS_VECTOR
+
+namespace orbs::ORBS_VARIANT {
+
+// get(i) is the vector of the values from the i-th on; the first `count` of them, rounded up to a whole
+// number of vectors, are written. `store` makes 32-bit integers of a vector.
+
+template <class Get, class Store>
+ORBS_INLINE void DeliverRandom(Orb64f* d, int count, Get get, Store) {
+  for (int i = 0; i < count; i += F64::kLanes) get(i).Store(d + i);
+}
+
+template <class Get, class Store>
+ORBS_INLINE void DeliverRandom(Orb32f* d, int count, Get get, Store) {
+  for (int i = 0; i < count; i += F64::kLanes) StoreNarrow(d + i, get(i));
+}
+
+template <class Get, class Store>
+ORBS_INLINE void DeliverRandom(Orb16s* d, int count, Get get, Store store) {
+  constexpr int kPacked = 2 * I32::kLanes;
+  static_assert(kRandomBlock % kPacked == 0);
+  for (int i = 0; i < count; i += kPacked) {
+    Orb32s wide[kPacked];
+    ORBS_UNROLL for (int j = 0; j < kPacked; j += F64::kLanes) store(wide + j, get(i + j));
+    StorePacked(d + i, I32::Load(wide), I32::Load(wide + I32::kLanes));
+  }
+}
+
+// The same into an array that has room for `room` elements; gives the number of elements that came to lie in
+// it. What is written beyond `count` is overwritten by the next delivery.
+template <class Result, class Get, class Store>
+ORBS_INLINE Orb32s DeliverRandom(Result* d, Orb32s room, int count, Get get, Store store) {
+  if (room >= kRandomBlock) {
+    DeliverRandom(d, count, get, store);
+    return count;
+  }
+  Result results[kRandomBlock];
+  DeliverRandom(results, count, get, store);
+  const Orb32s delivered = count < room ? count : room;
+  std::memcpy(d, results, static_cast<size_t>(delivered) * sizeof(Result));
+  return delivered;
+}
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif
+#endif

@@ -1,0 +1,154 @@
+// Add, compare and select over the states of a trellis, and the path metrics behind it.
+#ifndef ORBS_MODEM_VITERBI_STATES_H
+#define ORBS_MODEM_VITERBI_STATES_H
+
+#include <cstring>
+
+#include "frame/variant.h"
+#include "orbs90lgc/types.h"
+
+#if ORBS_VECTOR
+#include "frame/blocks.h"
+#include "modem/viterbi_linear.h"
+#endif
+
+namespace orbs::ORBS_VARIANT {
+
+inline constexpr Orb16u kUnreached = 65535;
+
+// A trellis step as the caller gave it; `survivors` is the step's row.
+struct TrellisStep {
+  const Orb16u* oldMetrics;
+  const Orb8u* nextStates;
+  Orb16u* newMetrics;
+  const Orb16sc* symbols;
+  Orb32u* survivors;
+  Orb32s stateCount;
+};
+
+// State by state, branch by branch, for any trellis. A symbol's metric counts as signed, but where the vector
+// variants have 16 states.
+template <int kBranches>
+void SelectPaths(const TrellisStep& step) {
+  for (Orb32s s = 0; s < step.stateCount; ++s) {
+    const Orb8u* const next = step.nextStates + int64_t{s} * kBranches;
+    const Orb32s old = step.oldMetrics[s];
+    ORBS_UNROLL
+    for (int b = 0; b < kBranches; ++b) {
+      const Orb16sc symbol = step.symbols[(s & 1) + 2 * b];
+      const Orb32s metric =
+          old + (ORBS_VECTOR && kBranches == 4 ? static_cast<Orb16u>(symbol.im) : Orb32s{symbol.im});
+      if (metric < step.newMetrics[next[b]]) {
+        step.newMetrics[next[b]] = static_cast<Orb16u>(metric);
+        step.survivors[next[b]] = static_cast<Orb16u>(symbol.re) | static_cast<Orb32u>(s) << 16;
+      }
+    }
+  }
+}
+
+#if ORBS_VECTOR
+
+// The code's own number of states and a linear code: all branches of a state at once.
+template <int kBranches>
+ORBS_INLINE void SelectPathsFast(const TrellisStep& step) {
+  constexpr Orb32s kStates = 4 * kBranches;
+  if (step.stateCount == kStates) {
+    LinearTrellis<kBranches> trellis;
+    if (trellis.Recognise(step.nextStates, step.symbols)) {
+      trellis.SelectPaths(step.oldMetrics, step.newMetrics, step.symbols, step.survivors);
+      return;
+    }
+  }
+  SelectPaths<kBranches>(step);
+}
+
+#endif
+
+inline void SelectPaths(const TrellisStep& step) {
+#if ORBS_VECTOR
+  if (step.stateCount == 16) return SelectPathsFast<4>(step);
+  if (step.stateCount == 32) return SelectPathsFast<8>(step);
+  return SelectPathsFast<16>(step);
+#else
+  if (step.stateCount == 16) return SelectPaths<4>(step);
+  if (step.stateCount == 32) return SelectPaths<8>(step);
+  return SelectPaths<16>(step);
+#endif
+}
+
+// ---- The least metric, and all of them relative to it ----
+
+#if ORBS_VECTOR
+
+// Metrics in the order of signed numbers.
+ORBS_INLINE I16 LoadBiased(const Orb16u* metrics) {
+  return I16::Load(reinterpret_cast<const Orb16s*>(metrics)) ^ I16::All(-32768);
+}
+
+ORBS_INLINE bool AnyLane(I16 mask) {
+  const N32 both = As32(mask);
+  return SignBits(AsFloat(both | ShiftLeft(both, 16))) != 0;
+}
+
+// n is at least a vector.
+inline Orb16u LeastMetric(const Orb16u* metrics, Orb32s n, Orb32s* index) {
+  I16 least = LoadBiased(metrics + n - I16::kLanes);
+  for (Orb32s i = 0; i + I16::kLanes <= n; i += I16::kLanes) least = Min(least, LoadBiased(metrics + i));
+  Orb16s lanes[I16::kLanes];
+  least.Store(lanes);
+  Orb16s result = lanes[0];
+  for (const Orb16s lane : lanes) result = lane < result ? lane : result;
+
+  const I16 wanted = I16::All(result);
+  Orb32s i = 0;
+  while (i + I16::kLanes <= n && !AnyLane(AndNot(Greater(LoadBiased(metrics + i), wanted), I16::All(-1)))) {
+    i += I16::kLanes;
+  }
+  const auto value = static_cast<Orb16u>(result ^ -32768);
+  while (metrics[i] != value) ++i;
+  *index = i;
+  return value;
+}
+
+inline Orb16u NormaliseMetrics(Orb16u* newMetrics, Orb16u* oldMetrics, Orb32s n, Orb32s* index) {
+  Orb16u least;
+  if (n >= I16::kLanes) {
+    least = LeastMetric(newMetrics, n, index);
+  } else {
+    Orb16u padded[I16::kLanes];
+    std::memset(padded, 0xFF, sizeof padded);
+    std::memcpy(padded, newMetrics, static_cast<size_t>(n) * sizeof *newMetrics);
+    least = LeastMetric(padded, I16::kLanes, index);
+  }
+  const I16 subtracted = I16::All(static_cast<Orb16s>(least));
+  ForBlocks<I16::kLanes>(
+      static_cast<size_t>(n),
+      [subtracted](Orb16u* d, const Orb16u* s) {
+        (I16::Load(reinterpret_cast<const Orb16s*>(s)) - subtracted).Store(reinterpret_cast<Orb16s*>(d));
+      },
+      oldMetrics, static_cast<const Orb16u*>(newMetrics));
+  std::memset(newMetrics, 0xFF, static_cast<size_t>(n) * sizeof *newMetrics);  // unreached
+  return least;
+}
+
+#else
+
+inline Orb16u NormaliseMetrics(Orb16u* newMetrics, Orb16u* oldMetrics, Orb32s n, Orb32s* index) {
+  Orb16u least = kUnreached;
+  *index = 0;
+  for (Orb32s s = 0; s < n; ++s) {
+    if (newMetrics[s] < least) {
+      least = newMetrics[s];
+      *index = s;
+    }
+  }
+  for (Orb32s s = 0; s < n; ++s) oldMetrics[s] = static_cast<Orb16u>(newMetrics[s] - least);
+  for (Orb32s s = 0; s < n; ++s) newMetrics[s] = kUnreached;
+  return least;
+}
+
+#endif
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif

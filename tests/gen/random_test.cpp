@@ -1,0 +1,278 @@
+// Random numbers: the exact sequence against the recurrence written down from its definition, then
+// statistics.
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+#include <vector>
+
+#include "support/export_test.h"
+#include "support/guarded_array.h"
+
+namespace orbs::test {
+namespace {
+
+constexpr Orb32u kSeed = 20080229;
+
+// W and o by index, as the definition has them.
+class Reference {
+ public:
+  explicit Reference(Orb32u seed) {
+    const Orb32u x1 = 69069 * seed + 1013904243;
+    words_ = {69069 * x1 + 1013904243, x1, seed};
+  }
+
+  Orb32s Next() {
+    const size_t n = words_.size();
+    Orb32u t = words_[n - 2] - words_[n - 3] + static_cast<Orb32u>(borrow_);
+    if (static_cast<Orb32s>(t) < 0) {
+      borrow_ = -1;
+      t -= 18;
+    } else {
+      borrow_ = 0;
+    }
+    words_.push_back(t);
+    linear_ = 69069 * linear_ + 1013904243;
+    return static_cast<Orb32s>(t + linear_);
+  }
+
+  Orb32u LastWord() const { return words_.back(); }
+
+ private:
+  std::vector<Orb32u> words_;
+  int borrow_ = -1;
+  Orb32u linear_ = 1131199209;
+};
+
+struct Expected {
+  std::vector<long double> values;
+  Orb32u seed;
+};
+
+Expected Uniform(Orb32u seed, int length, long double low, long double high) {
+  Reference reference(seed);
+  Expected expected;
+  for (int n = 0; n < length; ++n) {
+    expected.values.push_back(
+        reference.Next() * ((high - low) * static_cast<long double>(2.3283064365387e-10)) + (low + high) / 2);
+  }
+  expected.seed = reference.LastWord();
+  return expected;
+}
+
+Expected Gauss(Orb32u seed, int length, long double mean, long double stdDev) {
+  Reference reference(seed);
+  Expected expected;
+  while (static_cast<int>(expected.values.size()) < length) {
+    const long double u1 = reference.Next() * static_cast<long double>(4.656612873077e-10);
+    const long double u2 = reference.Next() * static_cast<long double>(4.656612873077e-10);
+    const long double r = u1 * u1 + u2 * u2;
+    if (r >= 1 || r == 0) continue;
+    const long double w = std::sqrt(-2 * std::log(r) / r);
+    expected.values.push_back(mean + stdDev * u2 * w);
+    expected.values.push_back(mean + stdDev * u1 * w);
+  }
+  expected.values.resize(static_cast<size_t>(length));
+  expected.seed = reference.LastWord();
+  return expected;
+}
+
+template <class T>
+using RandomFunction = OrbStatus (*)(T*, Orb32s, T, T, Orb32u*);
+using ExpectedFunction = Expected (*)(Orb32u, int, long double, long double);
+
+std::vector<int> Lengths() {
+  std::vector<int> lengths = {1000, 1001, 4099};
+  for (int length = 1; length <= 200; ++length) lengths.push_back(length);
+  return lengths;
+}
+
+class RandomTest : public ExportTest {
+ protected:
+  // Hands each element and its exact value to `compare`, for all lengths.
+  template <class T, class Compare>
+  void ForEachElement(RandomFunction<T> function, ExpectedFunction reference, T a, T b, Compare compare) {
+    Orb32u nextSeed = 0;
+    for (const int length : Lengths()) {
+      const auto size = static_cast<size_t>(length);
+      const Expected expected = reference(nextSeed, length, a, b);
+      GuardedArray<T> out(size, size % 5);
+      Orb32u seed = nextSeed;
+      ASSERT_EQ(function(out.data(), length, a, b, &seed), StatusOk);
+      ASSERT_TRUE(out.GuardsIntact()) << length;
+      ASSERT_EQ(seed, expected.seed) << length;
+      for (size_t i = 0; i < size; ++i) {
+        ASSERT_TRUE(compare(out[i], expected.values[i], length, i))
+            << out[i] << " is not " << expected.values[i] << ", element " << i << " of " << length;
+      }
+      nextSeed = seed;
+    }
+  }
+
+  template <class T>
+  void ExpectFloats(RandomFunction<T> function, ExpectedFunction reference, T a, T b) {
+    ForEachElement(function, reference, a, b, [a, b](T actual, long double expected, int, size_t) {
+      // Where r is almost 1, the last bit of r reaches far into its logarithm: hence 1e-12.
+      const long double magnitude = std::abs(a) + std::abs(b) + std::abs(expected);
+      return std::abs(actual - expected) <= (std::numeric_limits<T>::epsilon() + 1e-12L) * magnitude;
+    });
+  }
+};
+ORBS_INSTANTIATE_VARIANTS(RandomTest);
+
+bool IsRounded(long double actual, long double y) { return std::abs(actual - y) <= 0.5L + 1e-8L; }
+
+// Toward zero, or either way where y is almost an integer.
+bool IsTruncated(long double actual, long double y) {
+  return std::abs(actual) <= std::abs(y) + 1e-8L && std::abs(actual) > std::abs(y) - 1 - 1e-8L;
+}
+
+TEST_P(RandomTest, UniformSequence) {
+  ExpectFloats(legacy90orbsRandUniform_Direct_32f, Uniform, -1.0f, 1.0f);
+  ExpectFloats(legacy90orbsRandUniform_Direct_32f, Uniform, 5.5f, -2.0f);
+  ExpectFloats(legacy90orbsRandUniform_Direct_64f, Uniform, 0.0, 1.0);
+  ExpectFloats(legacy90orbsRandUniform_Direct_64f, Uniform, -1e300,
+               1.5e308);  // whose distance is no binary64
+}
+
+TEST_P(RandomTest, UniformSequenceOf16Bits) {
+  const Variant variant = GetParam();
+  const auto compare = [variant](Orb16s actual, long double y, int length, size_t i) {
+    const bool alone = length % 2 != 0 && static_cast<int>(i) == length - 1;
+    const bool truncated = variant == Variant::px || (alone && variant >= Variant::s8);
+    return truncated ? IsTruncated(actual, y) : IsRounded(actual, y);
+  };
+  ForEachElement<Orb16s>(legacy90orbsRandUniform_Direct_16s, Uniform, -32768, 32767, compare);
+  ForEachElement<Orb16s>(legacy90orbsRandUniform_Direct_16s, Uniform, -3, 4, compare);
+  ForEachElement<Orb16s>(legacy90orbsRandUniform_Direct_16s, Uniform, 100, -100, compare);
+}
+
+TEST_P(RandomTest, GaussSequence) {
+  ExpectFloats(legacy90orbsRandGauss_Direct_32f, Gauss, 0.0f, 1.0f);
+  ExpectFloats(legacy90orbsRandGauss_Direct_32f, Gauss, 10.0f, -0.25f);
+  ExpectFloats(legacy90orbsRandGauss_Direct_64f, Gauss, 0.0, 1.0);
+  ExpectFloats(legacy90orbsRandGauss_Direct_64f, Gauss, -5e5, 1e6);
+  const auto compare = [](Orb16s actual, long double y, int, size_t) {
+    return IsTruncated(actual, std::min(32767.0L, std::max(-32768.0L, y)));
+  };
+  ForEachElement<Orb16s>(legacy90orbsRandGauss_Direct_16s, Gauss, 3, 10, compare);
+  ForEachElement<Orb16s>(legacy90orbsRandGauss_Direct_16s, Gauss, -32768, 32767, compare);
+}
+
+TEST_P(RandomTest, NoSpreadGivesTheMiddleAndMovesTheSeed) {
+  std::vector<Orb32f> floats(77);
+  std::vector<Orb64f> doubles(77);
+  std::vector<Orb16s> samples(77);
+  Orb32u seed = kSeed;
+  legacy90orbsRandUniform_Direct_32f(floats.data(), 77, 3.0f, 3.0f, &seed);
+  EXPECT_EQ(floats, std::vector<Orb32f>(77, 3.0f));
+  EXPECT_EQ(seed, Uniform(kSeed, 77, 0, 1).seed);
+  seed = kSeed;
+  legacy90orbsRandGauss_Direct_64f(doubles.data(), 77, -2.5, 0.0, &seed);
+  EXPECT_EQ(doubles, std::vector<Orb64f>(77, -2.5));
+  EXPECT_EQ(seed, Gauss(kSeed, 77, 0, 1).seed);
+  legacy90orbsRandGauss_Direct_16s(samples.data(), 77, -32768, 0, &seed);
+  EXPECT_EQ(samples, std::vector<Orb16s>(77, -32768));
+}
+
+// ---- Statistics, of one long call. The bounds are those that a good generator breaks once in a million.
+// ----
+
+constexpr int kMany = 1 << 20;
+
+struct Moments {
+  double mean = 0;
+  double variance = 0;
+};
+
+template <class T>
+Moments MomentsOf(const std::vector<T>& x) {
+  Moments m;
+  m.mean = std::accumulate(x.begin(), x.end(), 0.0) / static_cast<double>(x.size());
+  for (const T v : x) m.variance += (v - m.mean) * (v - m.mean) / static_cast<double>(x.size());
+  return m;
+}
+
+// Chi-square over 256 bins; `bin` gives the bin of a value. 255 degrees of freedom: 371 is the bound.
+template <class T, class Bin>
+double ChiSquare(const std::vector<T>& x, Bin bin) {
+  std::vector<int> counts(256);
+  for (const T v : x) ++counts[static_cast<size_t>(bin(v))];
+  const double expected = static_cast<double>(x.size()) / 256;
+  double sum = 0;
+  for (const int count : counts) sum += (count - expected) * (count - expected) / expected;
+  return sum;
+}
+
+TEST_P(RandomTest, UniformNumbersAreUniform) {
+  std::vector<Orb32f> x(kMany);
+  std::vector<Orb16s> samples(kMany);
+  Orb32u seed = kSeed;
+  legacy90orbsRandUniform_Direct_32f(x.data(), kMany, 0.0f, 1.0f, &seed);
+  legacy90orbsRandUniform_Direct_16s(samples.data(), kMany, -32768, 32767, &seed);
+  const Moments m = MomentsOf(x);
+  EXPECT_NEAR(m.mean, 0.5, 4.9 * std::sqrt(1.0 / 12 / kMany));
+  EXPECT_NEAR(m.variance, 1.0 / 12, 4.9 * std::sqrt(1.0 / 180 / kMany));
+  EXPECT_LT(ChiSquare(x, [](float v) { return std::min(255, static_cast<int>(v * 256)); }), 371);
+  EXPECT_LT(ChiSquare(samples, [](int v) { return (v + 32768) / 256; }), 371);
+
+  // Pairs of neighbours, 16 by 16.
+  std::vector<int> pairs;
+  for (size_t i = 0; i + 1 < x.size(); i += 2) {
+    pairs.push_back(std::min(15, static_cast<int>(x[i] * 16)) * 16 +
+                    std::min(15, static_cast<int>(x[i + 1] * 16)));
+  }
+  EXPECT_LT(ChiSquare(pairs, [](int v) { return v; }), 371);
+}
+
+TEST_P(RandomTest, GaussianNumbersAreNormal) {
+  std::vector<Orb32f> x(kMany);
+  Orb32u seed = kSeed;
+  legacy90orbsRandGauss_Direct_32f(x.data(), kMany, 0.0f, 1.0f, &seed);
+  const Moments m = MomentsOf(x);
+  EXPECT_NEAR(m.mean, 0, 4.9 / std::sqrt(kMany));
+  EXPECT_NEAR(m.variance, 1, 4.9 * std::sqrt(2.0 / kMany));
+  // Neighbours, which come from one point, are independent.
+  double product = 0;
+  for (size_t i = 0; i + 1 < x.size(); i += 2) product += static_cast<double>(x[i]) * x[i + 1];
+  EXPECT_NEAR(product / (kMany / 2), 0, 4.9 * std::sqrt(2.0 / kMany));
+
+  const auto phi = [](double v) { return std::erfc(-v / std::sqrt(2.0)) / 2; };
+  EXPECT_LT(ChiSquare(x, [phi](float v) { return std::min(255, static_cast<int>(phi(v) * 256)); }), 371);
+  // Kolmogorov and Smirnov: the largest distance between the distributions.
+  std::sort(x.begin(), x.end());
+  double distance = 0;
+  for (size_t i = 0; i < x.size(); ++i) {
+    const double p = phi(x[i]);
+    distance =
+        std::max({distance, p - static_cast<double>(i) / kMany, static_cast<double>(i + 1) / kMany - p});
+  }
+  EXPECT_LT(distance * std::sqrt(kMany), 2.69);
+}
+
+// ---- Statuses ----
+
+template <class T>
+void CheckStatuses(RandomFunction<T> function) {
+  GuardedArray<T> out(4);
+  Orb32u seed = kSeed;
+  EXPECT_EQ(function(nullptr, 0, 1, 2, &seed), StatusNullPointer);
+  EXPECT_EQ(function(out.data(), 0, 1, 2, nullptr), StatusNullPointer);
+  for (const Orb32s length : {0, -1, std::numeric_limits<Orb32s>::min()}) {
+    EXPECT_EQ(function(out.data(), length, 1, 2, &seed), StatusSize);
+  }
+  EXPECT_TRUE(out.Untouched());
+  EXPECT_EQ(seed, kSeed);
+}
+
+TEST_P(RandomTest, BadArgumentsGiveTheirStatusAndChangeNothing) {
+  CheckStatuses(legacy90orbsRandUniform_Direct_16s);
+  CheckStatuses(legacy90orbsRandUniform_Direct_32f);
+  CheckStatuses(legacy90orbsRandUniform_Direct_64f);
+  CheckStatuses(legacy90orbsRandGauss_Direct_16s);
+  CheckStatuses(legacy90orbsRandGauss_Direct_32f);
+  CheckStatuses(legacy90orbsRandGauss_Direct_64f);
+}
+
+}  // namespace
+}  // namespace orbs::test

@@ -1,0 +1,47 @@
+// The six result types of tones and triangles, and the distance of samples.
+#ifndef ORBS_TESTS_GEN_TONE_FORMS_H
+#define ORBS_TESTS_GEN_TONE_FORMS_H
+
+#include <algorithm>
+#include <cmath>
+#include <type_traits>
+
+#include "orbs90lgc.h"
+
+namespace orbs::test {
+
+template <class Sample>
+struct FormOf {
+  using Part = Sample;
+  using Real = std::conditional_t<std::is_same_v<Sample, Orb64f>, Orb64f, Orb32f>;
+  static constexpr bool kComplex = false;
+};
+template <>
+struct FormOf<Orb32fc> : FormOf<Orb32f> {
+  static constexpr bool kComplex = true;
+};
+template <>
+struct FormOf<Orb64fc> : FormOf<Orb64f> {
+  static constexpr bool kComplex = true;
+};
+template <>
+struct FormOf<Orb16sc> : FormOf<Orb16s> {
+  static constexpr bool kComplex = true;
+};
+template <class Sample>
+using Part = typename FormOf<Sample>::Part;
+template <class Sample>
+using Real = typename FormOf<Sample>::Real;
+
+template <class Sample>
+double Distance(Sample a, Sample b) {
+  if constexpr (FormOf<Sample>::kComplex) {
+    return std::max(Distance(a.re, b.re), Distance(a.im, b.im));
+  } else {
+    return std::fabs(static_cast<double>(a) - static_cast<double>(b));
+  }
+}
+
+}  // namespace orbs::test
+
+#endif
