@@ -1,7 +1,6 @@
 // FIR filters without a state, with floating-point taps.
 #include "fir/direct.h"
 #include "fir/deliver.h"
-#include "fir/direct_kernels.h"
 #include "fir/float_state.h"
 #include "fir/one_kernels.h"
 #include "frame/exports.h"
@@ -21,17 +20,14 @@ struct FloatDirect {
 
   ORBS_INLINE void One(const Data* x, Data* dst) const {
     Wide<PartOf<Tap>> sums[kParts];
-#if ORBS_VECTOR
-    FirDotNatural(Parts(x), Parts(taps), tapCount, sums);
-#else
-    FirDot<kParts, -1>(Parts(x), Parts(taps + (tapCount - 1)), tapCount, sums);
-#endif
+    FirDot<-1>(Parts(x), Parts(taps + (tapCount - 1)), tapCount, sums);
     for (int part = 0; part < kParts; ++part)
       Parts(dst)[part] = DeliverOne<PartOf<Data>, true>(sums[part], scaleFactor);
   }
 
 #if ORBS_VECTOR
   static constexpr bool kReadsSource = !Kind::kWidens;
+  static_assert(kDirectFewOutputs * kParts >= VectorOf<PartOf<Tap>>::kLanes);
 
   void Outputs(const Data* x, Data* dst, int64_t count) const {
     if constexpr (kReadsSource) {

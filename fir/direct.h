@@ -4,8 +4,10 @@
 // An Arithmetic tells of one call: the types Data and Tap, `taps` and `tapCount`, and makes results:
 //
 //   One(x, dst)              one result from the samples x[0] to x[n-1], the oldest first
-//   Outputs(x, dst, count)   vector variants: `count` results, dst[i] from x[i] to x[i+n-1]
-//   kReadsSource             vector variants: Outputs reads no sample beyond those, given kLeastOutputs
+//   Outputs(x, dst, count)   vector variants: dst[i] from x[i] to x[i+n-1], 0 <= i < count
+//   kReadsSource             vector variants: Outputs takes any count; otherwise it takes a chunk at most
+//
+// From kDirectFewOutputs on, Outputs reads no other sample; below, up to kDirectRoom behind the last.
 #ifndef ORBS_FIR_DIRECT_H
 #define ORBS_FIR_DIRECT_H
 

@@ -1,8 +1,9 @@
 // FIR filters without a state, with integer taps on 16-bit samples.
 #include "fir/direct.h"
-#include "fir/direct_kernels.h"
 #include "fir/integer_kernels.h"
 #include "fir/integer_state.h"
+#include "fir/one_kernels.h"
+#include "frame/blocks.h"
 #include "frame/exports.h"
 #include "frame/memory.h"
 
@@ -106,7 +107,7 @@ struct IntegerDirect {
   ORBS_INLINE void One(const Data* x, Data* dst) const {
     Orb32s sums[kParts];
 #if ORBS_VECTOR
-    FirDotNatural(Parts(x), Parts(taps), tapCount, sums);
+    FirDot<-1>(Parts(x), Parts(taps + (tapCount - 1)), tapCount, sums);
 #else
     FirIntOne<-1>(x, taps + (tapCount - 1), tapCount, sums);
 #endif

@@ -286,6 +286,13 @@ ORBS_INLINE I16x8 SwapPairs(I16x8 a) {
   return {_mm_shufflehi_epi16(_mm_shufflelo_epi16(a.v, kSwapped), kSwapped)};
 }
 ORBS_INLINE I16x8 ReversePairs(I16x8 a) { return {_mm_shuffle_epi32(a.v, _MM_SHUFFLE(0, 1, 2, 3))}; }
+ORBS_INLINE I16x8 Reverse(I16x8 a) {
+#ifdef __SSSE3__
+  return {_mm_shuffle_epi8(a.v, _mm_setr_epi8(14, 15, 12, 13, 10, 11, 8, 9, 6, 7, 4, 5, 2, 3, 0, 1))};
+#else
+  return SwapPairs(ReversePairs(a));
+#endif
+}
 
 // ---- 8-bit integers; Greater compares signed ----
 

@@ -43,13 +43,13 @@
  * - Floating-point sums are made in the tap type, in `px` wider.
  * - "scaled": the sum times 2^-scaleFactor, rounded to the nearest integer with ties away from zero in all
  *   variants, and saturated; each component for complex data. The factor comes from the exponent field of
- *   binary32 with the magnitude of scaleFactor taken modulo 128; for a positive scaleFactor that is 127
- * modulo 128 it is 0.
- * - "shifted": each product is the low 32 bits of tap times sample and the sum wraps. It is multiplied by
- * 2^d, d = tapsFactor - scaleFactor limited to -31 to 31. d below 0 divides by 2^-d and rounds to nearest,
- * ties to even, the rounding addition wrapping too; d above 0 shifts left in 32 bits, bits above falling
- * away. Then the result is saturated to 16 bits. All variants give the same numbers. Taps of Orb16s are Q15
- *   numbers: their tapsFactor is -15.
+ *   binary32 with the magnitude of scaleFactor taken modulo 128; where that leaves 127 of a positive
+ *   scaleFactor, it is 0.
+ * - "shifted": each product is the low 32 bits of tap times sample, and the sum wraps. It is multiplied by
+ *   2^d, d = tapsFactor - scaleFactor limited to -31 to 31. d below 0 divides by 2^-d and rounds to nearest,
+ *   ties to even, the rounding addition wrapping too; d above 0 shifts left in 32 bits, bits above falling
+ *   away. Then the result is saturated to 16 bits. All variants give the same numbers. Taps of Orb16s are
+ *   Q15 numbers: their tapsFactor is -15.
  *
  * Any scale factor is legal. `*delayIndex` is not tested, but by the functions on Orb16s with Orb16s taps:
  * elsewhere an index outside 0 to n-1 is a write outside the delay line.
