@@ -19,6 +19,11 @@ set(ORBS_VARIANT_SOURCES
     fir/integer_state.cpp
     fir/one.cpp
     gen/companding.cpp
+    iir/access.cpp
+    iir/direct.cpp
+    iir/filter.cpp
+    iir/init.cpp
+    iir/run.cpp
     transform/fft_codelets.cpp
     transform/fft_complex.cpp
     transform/fft_init.cpp

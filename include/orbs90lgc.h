@@ -11,6 +11,8 @@
 #include "orbs90lgc/fir_integer.h"
 #include "orbs90lgc/fir_state.h"
 #include "orbs90lgc/frame.h"
+#include "orbs90lgc/iir.h"
+#include "orbs90lgc/iir_direct.h"
 #include "orbs90lgc/spectrum.h"
 #include "orbs90lgc/status.h"
 #include "orbs90lgc/types.h"

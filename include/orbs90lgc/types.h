@@ -114,6 +114,7 @@ typedef struct FFTSpec_R_16s32s FFTSpec_R_16s32s; /**< 16-bit real signals with 
  */
 typedef struct FIRFloatState FIRFloatState; /**< FIR filter with floating-point taps. See fir.h. */
 typedef struct FIRIntState FIRIntState;     /**< FIR filter with integer taps. See fir.h. */
+typedef struct IIRState IIRState;           /**< IIR filter, of any order or a cascade of biquads. See iir.h. */
 /** @} */
 
 /** The version record that legacy90orbsGetLibVersion() points to. Static: never free or change it. */
