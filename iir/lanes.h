@@ -12,7 +12,7 @@ namespace orbs::ORBS_VARIANT {
 
 // Calls f with the constants 0 to n-1, for intrinsics whose operands must be constants.
 template <class F, int... i>
-ORBS_INLINE void ForConstants(F f, std::integer_sequence<int, i...>) {
+ORBS_INLINE void ForConstants([[maybe_unused]] F f, std::integer_sequence<int, i...>) {
   (f(std::integral_constant<int, i>{}), ...);
 }
 template <int n, class F>
