@@ -16,20 +16,24 @@ namespace orbs::ORBS_VARIANT {
 // recursive digital filters", 1989). With c[k] = -a[k], 0 beyond the order, row k tells how much y[n-k]
 // counts in each of a vector of results y[n], y[n+1], ...:
 //   T[k][0] = c[k],   T[k][i] = c[1] T[k][i-1] + ... + c[i] T[k][0] + c[k+i]
-// A row has as many results as a vector has elements. The sums are made in binary64: errors of a row act like
-// errors of coefficients.
+// The sums are made in binary64 and rounded once: the errors of the rows act like errors of coefficients, and
+// for poles near 1 the rows nearly cancel. For order 2 the first row is T[1] + T[2], see look_ahead.h.
 template <class Kind>
 void StoreLookAheadRows(const typename Kind::Work* a, Orb32s order, Orb32f* rows) {
   using N = Number<Orb64f, Kind::kParts>;
-  using Work = typename Kind::Work;
-  constexpr int kElements = kRowParts / Kind::kParts;
+  constexpr int kMostElements = 2 * F32::kLanes / Kind::kParts;
+  const Orb32s elements = RowParts(order) / Kind::kParts;
+  N second[kMostElements];  // the row after the current one
   const auto c = [&](Orb32s k) { return k <= order ? -N::From(a[k - 1]) : N::Zero(); };
-  for (Orb32s k = 1; k <= order; ++k, rows += kRowParts) {
-    N row[kElements];
-    for (Orb32s i = 0; i < kElements; ++i) {
+  auto* const out = reinterpret_cast<typename Kind::Work*>(rows);
+  for (Orb32s k = order; k >= 1; --k) {
+    N row[kMostElements];
+    for (Orb32s i = 0; i < elements; ++i) {
       row[i] = c(k + i);
-      for (Orb32s j = 1; j <= i; ++j) row[i] = row[i] + c(j) * row[i - j];
-      row[i].To(reinterpret_cast<Work*>(rows) + i);
+      for (Orb32s j = 1; j <= i && j <= order; ++j) row[i] = row[i] + c(j) * row[i - j];
+      row[i].To(out + int64_t{k - 1} * elements + i);
+      if (order == 2 && k == 1) (row[i] + second[i]).To(out + i);
+      second[i] = row[i];
     }
   }
 }
@@ -39,7 +43,7 @@ void StoreSectionTables(IirView<Kind> view, Orb32s section) {
   using N = Number<Orb32f, Kind::kParts>;
   using Work = typename Kind::Work;
   const Work* const t = view.Taps() + int64_t{5} * section;
-  StoreLookAheadRows<Kind>(t + 3, 2, view.LookAheadTable() + int64_t{2} * section * kRowParts);
+  StoreLookAheadRows<Kind>(t + 3, 2, view.LookAheadTable() + int64_t{2} * section * RowParts(2));
   Work* const table = reinterpret_cast<Work*>(view.SectionTable()) + int64_t{section} * kSectionTableElements;
   const N values[kSectionTableElements] = {N::From(t[0]),  N::From(t[1]),  N::From(t[2]), N::Zero(),
                                            -N::From(t[3]), -N::From(t[4]), N::Zero(),     N::Zero()};

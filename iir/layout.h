@@ -12,8 +12,10 @@ inline constexpr uintptr_t kIirAlignment = 32;
 inline constexpr Orb32s kIirPiece = 1024;
 
 #if ORBS_VECTOR
-// Parts of a row of the look-ahead table: a row is a vector of results.
-inline constexpr int kRowParts = F32::kLanes;
+// A row of the look-ahead table is for one vector of results, or for two where orders are low. For two
+// vectors of order 4 the states of real filters have no room with AVX.
+constexpr int RowVectors(Orb32s order) { return order <= 3 ? 2 : 1; }
+constexpr int RowParts(Orb32s order) { return RowVectors(order) * F32::kLanes; }
 #endif
 inline constexpr int kSectionTableElements = 8;
 
@@ -25,8 +27,8 @@ struct IirLayout {
 template <class Kind>
 IirLayout DescribeIir(Orb32s units) {
   using Work = typename Kind::Work;
-  // In px the sizes for real data leave no room for more.
-  constexpr int64_t kPadding = kVariant == Variant::px && Kind::kParts == 1 ? 16 : 32;
+  // The sizes for real data leave no room for more.
+  constexpr int64_t kPadding = Kind::kParts == 1 ? 16 : 32;
   IirLayout layout;
   BlockLayout& block = layout.block;
   IIRState& at = layout.offsets;
@@ -37,8 +39,9 @@ IirLayout DescribeIir(Orb32s units) {
   if (Kind::kCascade) {
     at.sectionTable = block.Add<Orb32f>(int64_t{units} * kSectionTableElements * Kind::kParts, kPadding);
   }
-  const int64_t rows = Kind::kCascade ? 2 * int64_t{units} : units;
-  at.lookAheadTable = block.Add<Orb32f>(rows * kRowParts, kPadding);
+  const int64_t tableParts =
+      Kind::kCascade ? int64_t{units} * 2 * RowParts(2) : int64_t{units} * RowParts(units);
+  at.lookAheadTable = block.Add<Orb32f>(tableParts, kPadding);
   at.blockA.bytes = block.Add<Work>(kIirPiece, kPadding).bytes;
   at.blockB.bytes = block.Add<Work>(kIirPiece, kPadding).bytes;
 #endif

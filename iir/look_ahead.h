@@ -10,13 +10,14 @@
 // T[1] moved up by one, w[1] by T[1] moved up by two, and so on. Then the results of the low quarter reach
 // those of the high one by the rows T.
 //
-// Orders up to 4, and so all biquads, have everything in registers, and take two vectors a round: the second
-// has its rows too, so that one wait for a sum yields 2 R results.
+// Orders up to 4, and so all biquads, have everything in registers. Up to order 3 they take two vectors a
+// round: the second has its rows too, so that one wait for a sum yields 2 R results.
 #ifndef ORBS_IIR_LOOK_AHEAD_H
 #define ORBS_IIR_LOOK_AHEAD_H
 
 #include <cstring>
 
+#include "frame/blocks.h"
 #include "iir/lanes.h"
 #include "iir/layout.h"
 
@@ -25,6 +26,7 @@
 namespace orbs::ORBS_VARIANT {
 
 inline constexpr int kQuarterParts = 4;
+inline constexpr int kVectorParts = F32::kLanes;
 
 // A number in all elements of a vector, and a sum of products with rows. Complex sums are kept in two parts,
 // of re and of im, so that the swap is made once a sum:  sum = a + i b.
@@ -34,12 +36,14 @@ template <>
 struct Factor<1> {
   F32 re;
   static ORBS_INLINE Factor Load(const Orb32f* p) { return {F32::All(p[0])}; }
+  ORBS_INLINE Factor operator-(Factor f) const { return {re - f.re}; }
 };
 template <>
 struct Factor<2> {
   F32 re;
   F32 im;
   static ORBS_INLINE Factor Load(const Orb32f* p) { return {F32::All(p[0]), F32::All(p[1])}; }
+  ORBS_INLINE Factor operator-(Factor f) const { return {re - f.re, im - f.im}; }
 };
 
 // One element of a vector as a factor: for all its elements, or for those of its own quarter.
@@ -88,18 +92,21 @@ struct RowSum<2> {
   ORBS_INLINE F32 Value() const { return AddRotated(a, b); }
 };
 
-// What turns w into v: how many rows reach from the low quarter into the high one is known from the order.
+// What turns w into v. kReach rows reach from the low quarter into the high one: as many as the order, if the
+// quarter has so many elements.
 template <int kParts, int kReach>
 class Silence {
  public:
-  // kReach rows, at least.
-  ORBS_INLINE explicit Silence(const Orb32f* rows) {
-    Orb32f moved[2 * kQuarterParts] = {};
-    std::memcpy(moved + kQuarterParts, rows, kQuarterParts * sizeof *rows);
+  static constexpr int kElements = kQuarterParts / kParts;
+
+  // rows: T[1] to T[kReach].
+  ORBS_INLINE explicit Silence(const F32 (&rows)[kReach]) {
+    Orb32f moved[kQuarterParts + kVectorParts] = {};
+    rows[0].Store(moved + kQuarterParts);
     ForConstants<kElements - 1>(
         [&](auto e) { LoadQuarterToAll(moved + kQuarterParts - (e + 1) * kParts, &within_[e]); });
 #ifdef __AVX__
-    ForConstants<kReach>([&](auto k) { across_[k] = LowQuarterMovedUp(F32::Load(rows + k * kRowParts)); });
+    ForConstants<kReach>([&](auto k) { across_[k] = LowQuarterMovedUp(rows[k]); });
 #endif
   }
 
@@ -116,8 +123,6 @@ class Silence {
 #endif
   }
 
-  static constexpr int kElements = kQuarterParts / kParts;
-
  private:
   F32 within_[kElements - 1];
 #ifdef __AVX__
@@ -130,49 +135,69 @@ class Silence {
 template <int kParts, int kOrder>
 class ShortRecursion {
  public:
-  static constexpr int kElements = kRowParts / kParts;
+  static constexpr int kElements = kVectorParts / kParts;
 
   // b[0] to b[N], and the rows of the table.
-  ORBS_INLINE ShortRecursion(const Orb32f* b, const Orb32f* rows) : silence_(rows) {
-    ForConstants<kOrder + 1>([&](auto k) { b_[k] = Factor<kParts>::Load(b + k * kParts); });
-    ForConstants<kOrder>([&](auto k) { near_[k] = F32::Load(rows + k * kRowParts); });
-    // The row of the second vector: what the row's own results make of it, after them what it began with.
-    ForConstants<kOrder>([&](auto k) {
-      F32 begin = F32::Zero();
-      if constexpr (k + kElements < kOrder) begin = near_[k + kElements];
-      auto sum = RowSum<kParts>::From(begin);
-      ForConstants<kWithin>(
-          [&](auto m) { sum.Add(FactorOf<kParts, kElements - 1 - m>(near_[k]), near_[m]); });
-      far_[k] = sum.Value();
-    });
-  }
+  ORBS_INLINE ShortRecursion(const Orb32f* b, const Orb32f* rows) : ShortRecursion(b, Rows(rows)) {}
 
   // Results first to count-1 from the input u; those before, at least N, are there.
   ORBS_INLINE void Run(const Orb32f* u, Orb32f* y, Orb32s first, Orb32s count) {
-    constexpr size_t kVector = kRowParts;
+    constexpr size_t kVector = kVectorParts;
     const size_t end = static_cast<size_t>(count) * kParts;
     size_t i = static_cast<size_t>(first) * kParts;
     LoadPast(y + i);
-    for (; i + 2 * kVector <= end; i += 2 * kVector) TwoVectors(u + i, y + i);
-    if (i + kVector <= end) {
-      OneVector(u + i, y + i);
-      i += kVector;
+    if constexpr (kTwo) {
+      for (; i + 2 * kVector <= end; i += 2 * kVector) TwoVectors(u + i, y + i);
     }
+    for (; i + kVector <= end; i += kVector) OneVector(u + i, y + i);
     if (i == end) return;
     // Fewer than a vector: on a copy with zeros behind.
     Orb32f input[kOrder * kParts + kVector] = {};
     Orb32f results[kVector];
-    std::memcpy(input, u + i - kOrder * kParts, (end - i + kOrder * kParts) * sizeof *u);
+    std::memcpy(input, u + i - kOrder * kParts, kOrder * kParts * sizeof *u);
+    CopyFew<kVector * sizeof *u / 2>(input + kOrder * kParts, u + i, end - i);
     OneVector(input + kOrder * kParts, results);
-    std::memcpy(y + i, results, (end - i) * sizeof *y);
+    CopyFew<kVector * sizeof *u / 2>(y + i, results, end - i);
   }
 
  private:
   // Rows that reach from one vector into the next.
   static constexpr int kWithin = kOrder < kElements ? kOrder : kElements;
-  static constexpr int kQuarter = Silence<kParts, 1>::kElements;
+  static constexpr int kQuarter = kQuarterParts / kParts;
+  static constexpr bool kTwo = RowVectors(kOrder) == 2;
+  static constexpr int kStride = RowParts(kOrder);
   // A sum of so many products is made in two halves.
   static constexpr bool kSplit = kOrder > 2;
+  // Rows that reach from quarter to quarter.
+  static constexpr int kReach = kOrder < kQuarter ? kOrder : kQuarter;
+
+  // The table's rows. For order 2 it has T[1] + T[2] and T[2], for
+  //   y[n-1] T[1] + y[n-2] T[2] = y[n-1] (T[1] + T[2]) + (y[n-2] - y[n-1]) T[2]
+  // With poles close to 1, which is what low frequencies mean, T[1] and T[2] are large and nearly cancel;
+  // their sum is close to 1 and holds what decides about the filter to the last bit, and the difference of
+  // results is small. Without this a low-pass at a thousandth of the sample rate would have the wrong gain.
+  struct Rows {
+    F32 plain[kOrder];
+    F32 near[kOrder];
+    F32 far[kOrder];
+
+    ORBS_INLINE explicit Rows(const Orb32f* table) {
+      ForConstants<kOrder>([&](auto k) {
+        plain[k] = near[k] = F32::Load(table + k * kStride);
+        far[k] = kTwo ? F32::Load(table + k * kStride + kVectorParts) : near[k];
+      });
+      if constexpr (kOrder == 2) plain[0] = near[0] - near[1];
+    }
+    ORBS_INLINE Silence<kParts, kReach> MakeSilence() const {
+      F32 reaching[kReach];
+      ForConstants<kReach>([&](auto k) { reaching[k] = plain[k]; });
+      return Silence<kParts, kReach>(reaching);
+    }
+  };
+
+  ORBS_INLINE ShortRecursion(const Orb32f* b, const Rows& rows) : rows_(rows), silence_(rows.MakeSilence()) {
+    ForConstants<kOrder + 1>([&](auto k) { b_[k] = Factor<kParts>::Load(b + k * kParts); });
+  }
 
   ORBS_INLINE F32 Numerator(const Orb32f* u) const {
     auto sum = RowSum<kParts>::Of(b_[kOrder], F32::Load(u - kOrder * kParts));
@@ -193,15 +218,20 @@ class ShortRecursion {
 
   // Two vectors whose last elements are the N results before y.
   ORBS_INLINE void LoadPast(const Orb32f* y) {
-    Orb32f past[2 * kRowParts] = {};
-    std::memcpy(past + 2 * kRowParts - kOrder * kParts, y - kOrder * kParts, kOrder * kParts * sizeof *y);
+    Orb32f past[2 * kVectorParts] = {};
+    std::memcpy(past + 2 * kVectorParts - kOrder * kParts, y - kOrder * kParts, kOrder * kParts * sizeof *y);
     older_ = F32::Load(past);
-    newer_ = F32::Load(past + kRowParts);
+    newer_ = F32::Load(past + kVectorParts);
   }
 
   ORBS_INLINE F32 AddPast(F32 v, const F32 (&rows)[kOrder]) const {
     auto sum = RowSum<kParts>::From(v);
-    if constexpr (kSplit) {
+    if constexpr (kOrder == 2) {
+      const auto last = Past<0>();
+      const auto change = Past<1>() - last;
+      sum.Add(last, rows[0]);
+      sum.Add(change, rows[1]);
+    } else if constexpr (kSplit) {
       auto other = RowSum<kParts>::Of(Past<kOrder - 1>(), rows[kOrder - 1]);
       ForConstants<kOrder / 2 - 1>([&](auto k) { other.Add(Past<kOrder - 2 - k>(), rows[kOrder - 2 - k]); });
       ForConstants<kOrder - kOrder / 2>([&](auto k) { sum.Add(Past<k>(), rows[k]); });
@@ -213,7 +243,7 @@ class ShortRecursion {
   }
 
   ORBS_INLINE void OneVector(const Orb32f* u, Orb32f* y) {
-    const F32 result = AddPast(silence_(Numerator(u)), near_);
+    const F32 result = AddPast(silence_(Numerator(u)), rows_.near);
     result.Store(y);
     older_ = newer_;
     newer_ = result;
@@ -221,20 +251,19 @@ class ShortRecursion {
 
   ORBS_INLINE void TwoVectors(const Orb32f* u, Orb32f* y) {
     const F32 v0 = silence_(Numerator(u));
-    auto v1 = RowSum<kParts>::From(silence_(Numerator(u + kRowParts)));
-    ForConstants<kWithin>([&](auto k) { v1.Add(FactorOf<kParts, kElements - 1 - k>(v0), near_[k]); });
-    const F32 y0 = AddPast(v0, near_);
-    const F32 y1 = AddPast(v1.Value(), far_);
+    auto v1 = RowSum<kParts>::From(silence_(Numerator(u + kVectorParts)));
+    ForConstants<kWithin>([&](auto k) { v1.Add(FactorOf<kParts, kElements - 1 - k>(v0), rows_.plain[k]); });
+    const F32 y0 = AddPast(v0, rows_.near);
+    const F32 y1 = AddPast(v1.Value(), rows_.far);
     y0.Store(y);
-    y1.Store(y + kRowParts);
+    y1.Store(y + kVectorParts);
     older_ = y0;
     newer_ = y1;
   }
 
-  Silence<kParts, (kOrder < kQuarter ? kOrder : kQuarter)> silence_;
+  Rows rows_;
+  Silence<kParts, kReach> silence_;
   Factor<kParts> b_[kOrder + 1];
-  F32 near_[kOrder];
-  F32 far_[kOrder];
   F32 older_;
   F32 newer_;
 };
@@ -246,20 +275,23 @@ class ShortRecursion {
 // come last.
 template <int kParts>
 void LongRecursion(const Orb32f* rows, Orb32s order, Orb32f* y, Orb32s first, Orb32s count) {
-  constexpr size_t kVector = kRowParts;
-  const Silence<kParts, kQuarterParts / kParts> silence(rows);
+  constexpr size_t kVector = kVectorParts;
+  constexpr int kReach = kQuarterParts / kParts;
+  F32 reaching[kReach];
+  ForConstants<kReach>([&](auto k) { reaching[k] = F32::Load(rows + k * kVectorParts); });
+  const Silence<kParts, kReach> silence(reaching);
   const auto vector = [&](const Orb32f* w, const Orb32f* now) {
     RowSum<kParts> sum[4] = {RowSum<kParts>::From(silence(F32::Load(w))), RowSum<kParts>::From(F32::Zero()),
                              RowSum<kParts>::From(F32::Zero()), RowSum<kParts>::From(F32::Zero())};
     const Orb32f* past = now - int64_t{order} * kParts;
-    const Orb32f* row = rows + (int64_t{order} - 1) * kRowParts;
+    const Orb32f* row = rows + (int64_t{order} - 1) * kVectorParts;
     Orb32s k = order;
-    for (; k % 4 != 0; --k, past += kParts, row -= kRowParts) {
+    for (; k % 4 != 0; --k, past += kParts, row -= kVectorParts) {
       sum[1].Add(Factor<kParts>::Load(past), F32::Load(row));
     }
-    for (; k > 0; k -= 4, past += 4 * kParts, row -= 4 * kRowParts) {
+    for (; k > 0; k -= 4, past += 4 * kParts, row -= 4 * kVectorParts) {
       ForConstants<4>([&](auto j) {
-        sum[j].Add(Factor<kParts>::Load(past + j * kParts), F32::Load(row - j * kRowParts));
+        sum[j].Add(Factor<kParts>::Load(past + j * kParts), F32::Load(row - j * kVectorParts));
       });
     }
     sum[0].Add(sum[1]);

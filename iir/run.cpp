@@ -115,7 +115,7 @@ const typename Kind::Work* FilterCascadePiece(IirView<Kind> view, Orb32s count) 
     std::swap(u, y);
     t += 5;
     d += 2;
-    rows += 2 * kRowParts;
+    rows += 2 * RowParts(2);
   }
   return u;
 }
