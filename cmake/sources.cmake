@@ -33,6 +33,11 @@ set(ORBS_VARIANT_SOURCES
     gen/tone_q15.cpp
     gen/triangle.cpp
     gen/triangle_q15.cpp
+    iir/access.cpp
+    iir/direct.cpp
+    iir/filter.cpp
+    iir/init.cpp
+    iir/run.cpp
     modem/fm.cpp
     modem/goertzel.cpp
     modem/viterbi.cpp

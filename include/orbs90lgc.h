@@ -15,6 +15,8 @@
 #include "orbs90lgc/fm.h"
 #include "orbs90lgc/frame.h"
 #include "orbs90lgc/goertzel.h"
+#include "orbs90lgc/iir.h"
+#include "orbs90lgc/iir_direct.h"
 #include "orbs90lgc/ramp.h"
 #include "orbs90lgc/random.h"
 #include "orbs90lgc/spectrum.h"

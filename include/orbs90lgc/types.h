@@ -116,6 +116,7 @@ typedef struct FIRFloatState FIRFloatState; /**< FIR filter with floating-point 
 typedef struct FIRIntState FIRIntState;     /**< FIR filter with integer taps. See fir.h. */
 typedef struct ToneState ToneState;         /**< Tone generator. See tone.h. */
 typedef struct TriangleState TriangleState; /**< Triangle generator. See triangle.h. */
+typedef struct IIRState IIRState; /**< IIR filter, of any order or a cascade of biquads. See iir.h. */
 /** @} */
 
 /** The version record that legacy90orbsGetLibVersion() points to. Static: never free or change it. */

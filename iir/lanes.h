@@ -1,0 +1,79 @@
+// How single lanes spread over vectors: recursions hand results from lane to lane.
+#ifndef ORBS_IIR_LANES_H
+#define ORBS_IIR_LANES_H
+
+#include <utility>
+
+#include "frame/simd.h"
+
+#if ORBS_VECTOR
+
+namespace orbs::ORBS_VARIANT {
+
+// Calls f with the constants 0 to n-1, for intrinsics whose operands must be constants.
+template <class F, int... i>
+ORBS_INLINE void ForConstants([[maybe_unused]] F f, std::integer_sequence<int, i...>) {
+  (f(std::integral_constant<int, i>{}), ...);
+}
+template <int n, class F>
+ORBS_INLINE void ForConstants(F f) {
+  ForConstants(f, std::make_integer_sequence<int, n>{});
+}
+
+// One lane in all lanes.
+template <int lane>
+ORBS_INLINE F32x4 AllOf(F32x4 a) {
+  return {_mm_shuffle_ps(a.v, a.v, lane * 0x55)};
+}
+// One lane of each quarter register (four lanes) in all lanes of that quarter.
+template <int lane>
+ORBS_INLINE F32x4 AllOfQuarter(F32x4 a) {
+  return AllOf<lane>(a);
+}
+#ifdef __AVX__
+template <int lane>
+ORBS_INLINE F32x8 AllOfQuarter(F32x8 a) {
+#ifdef __AVX2__
+  // The shuffle of integers: processors have more units for it, and the sums around leave none idle.
+  return {_mm256_castsi256_ps(_mm256_shuffle_epi32(_mm256_castps_si256(a.v), lane * 0x55))};
+#else
+  return {_mm256_permute_ps(a.v, lane * 0x55)};
+#endif
+}
+template <int lane>
+ORBS_INLINE F32x8 AllOf(F32x8 a) {
+#ifdef __AVX2__
+  return {_mm256_permutevar8x32_ps(a.v, _mm256_set1_epi32(lane))};
+#else
+  return AllOfQuarter<lane % 4>(F32x8{_mm256_permute2f128_ps(a.v, a.v, lane / 4 * 0x11)});
+#endif
+}
+// Four lanes from memory in both quarters, and zeros below the low quarter.
+ORBS_INLINE void LoadQuarterToAll(const Orb32f* p, F32x8* out) {
+  const __m128 quarter = _mm_loadu_ps(p);
+  *out = {_mm256_set_m128(quarter, quarter)};
+}
+ORBS_INLINE F32x8 LowQuarterMovedUp(F32x8 a) { return {_mm256_permute2f128_ps(a.v, a.v, 0x08)}; }
+#endif
+ORBS_INLINE void LoadQuarterToAll(const Orb32f* p, F32x4* out) { *out = F32x4::Load(p); }
+
+// Lanes 0 and 1 from memory with zeros above, and back.
+ORBS_INLINE F32x4 LoadLowPair(const Orb32f* p) {
+  return {_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};
+}
+ORBS_INLINE void StoreLowPair(Orb32f* p, F32x4 a) {
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_castps_si128(a.v));
+}
+ORBS_INLINE Orb32f LowLane(F32x4 a) { return _mm_cvtss_f32(a.v); }
+// Every lane in the place of the one below it, a zero on top.
+ORBS_INLINE F32x4 MovedDown(F32x4 a) { return {_mm_castsi128_ps(_mm_srli_si128(_mm_castps_si128(a.v), 4))}; }
+// The low pair in both pairs; the high pair of a with the low pair of b above it.
+ORBS_INLINE F32x4 LowPairToAll(F32x4 a) { return {_mm_movelh_ps(a.v, a.v)}; }
+ORBS_INLINE F32x4 HighPairThenLow(F32x4 a, F32x4 b) {
+  return {_mm_shuffle_ps(a.v, b.v, _MM_SHUFFLE(1, 0, 3, 2))};
+}
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif
+#endif

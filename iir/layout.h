@@ -1,0 +1,67 @@
+// What the block of an IIR state holds, and how many bytes of memory a caller has to give for it.
+#ifndef ORBS_IIR_LAYOUT_H
+#define ORBS_IIR_LAYOUT_H
+
+#include "iir/state.h"
+
+namespace orbs::ORBS_VARIANT {
+
+inline constexpr uintptr_t kIirAlignment = 32;
+
+// Samples of a piece: two blocks of them, with the tables, stay in the first-level cache.
+inline constexpr Orb32s kIirPiece = 1024;
+
+#if ORBS_VECTOR
+// A row of the look-ahead table is for one vector of results, or for two where orders are low. For two
+// vectors of order 4 the states of real filters have no room with AVX.
+constexpr int RowVectors(Orb32s order) { return order <= 3 ? 2 : 1; }
+constexpr int RowParts(Orb32s order) { return RowVectors(order) * F32::kLanes; }
+#endif
+inline constexpr int kSectionTableElements = 8;
+
+struct IirLayout {
+  BlockLayout block{0, 1};
+  IIRState offsets{};
+};
+
+template <class Kind>
+IirLayout DescribeIir(Orb32s units) {
+  using Work = typename Kind::Work;
+  // The sizes for real data leave no room for more.
+  constexpr int64_t kPadding = Kind::kParts == 1 ? 16 : 32;
+  IirLayout layout;
+  BlockLayout& block = layout.block;
+  IIRState& at = layout.offsets;
+  block = BlockLayout(sizeof(IIRState), kPadding);
+  at.taps.bytes = block.Add<Work>(Kind::StoredTaps(units), kPadding).bytes;
+  at.delayLine.bytes = block.Add<Work>(Kind::DelayElements(units), kPadding).bytes;
+#if ORBS_VECTOR
+  if (Kind::kCascade) {
+    at.sectionTable = block.Add<Orb32f>(int64_t{units} * kSectionTableElements * Kind::kParts, kPadding);
+  }
+  const int64_t tableParts =
+      Kind::kCascade ? int64_t{units} * 2 * RowParts(2) : int64_t{units} * RowParts(units);
+  at.lookAheadTable = block.Add<Orb32f>(tableParts, kPadding);
+  at.blockA.bytes = block.Add<Work>(kIirPiece, kPadding).bytes;
+  at.blockB.bytes = block.Add<Work>(kIirPiece, kPadding).bytes;
+#endif
+  return layout;
+}
+
+// The sizes are interface: callers allocate by them, whatever a variant keeps in the room. They have room for
+// the alignment of the caller's memory.
+template <class Kind>
+constexpr int64_t IirStateBytes(int64_t n) {
+  constexpr bool kPx = kVariant == Variant::px;
+  constexpr bool kComplex = Kind::kParts == 2;
+  if (Kind::kCascade && kComplex) {
+    return RoundUp(16 * n, 32) + RoundUp(40 * n, 32) + (kPx ? 128 : 1184 * n + 16512);
+  }
+  if (Kind::kCascade) return RoundUp(8 * n, 16) + RoundUp(20 * n, 16) + (kPx ? 80 : 160 * n + 8312);
+  if (kComplex) return RoundUp(8 * n + 8, 32) + RoundUp(16 * n + 8, 32) + (kPx ? 96 : 128 * n + 16848);
+  return RoundUp(4 * n + 4, 16) + RoundUp(8 * n + 4, 16) + (kPx ? 80 : 32 * n + 8376);
+}
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif

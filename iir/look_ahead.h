@@ -1,0 +1,315 @@
+// The block recursion: y[n] = w[n] + c[1] y[n-1] + ... + c[N] y[n-N], a vector of results at a time.
+//
+// Written out, a vector of R results depends on the N results before it and on its own w alone:
+//   (y[n], ..., y[n+R-1]) = v + y[n-1] T[1] + ... + y[n-N] T[N]
+// with the rows T of the look-ahead table, and with v the results that the same w would give after silence.
+// v carries no recursion from vector to vector, so that only the sum over the rows stands in the way of the
+// next vector.
+//
+// v itself is made in steps. Within a quarter register (four parts) w[0] reaches the elements after it by
+// T[1] moved up by one, w[1] by T[1] moved up by two, and so on. Then the results of the low quarter reach
+// those of the high one by the rows T.
+//
+// Orders up to 4, and so all biquads, have everything in registers. Up to order 3 they take two vectors a
+// round: the second has its rows too, so that one wait for a sum yields 2 R results.
+#ifndef ORBS_IIR_LOOK_AHEAD_H
+#define ORBS_IIR_LOOK_AHEAD_H
+
+#include <cstring>
+
+#include "frame/blocks.h"
+#include "iir/lanes.h"
+#include "iir/layout.h"
+
+#if ORBS_VECTOR
+
+namespace orbs::ORBS_VARIANT {
+
+inline constexpr int kQuarterParts = 4;
+inline constexpr int kVectorParts = F32::kLanes;
+
+// A number in all elements of a vector, and a sum of products with rows. Complex sums are kept in two parts,
+// of re and of im, so that the swap is made once a sum:  sum = a + i b.
+template <int kParts>
+struct Factor;
+template <>
+struct Factor<1> {
+  F32 re;
+  static ORBS_INLINE Factor Load(const Orb32f* p) { return {F32::All(p[0])}; }
+  ORBS_INLINE Factor operator-(Factor f) const { return {re - f.re}; }
+};
+template <>
+struct Factor<2> {
+  F32 re;
+  F32 im;
+  static ORBS_INLINE Factor Load(const Orb32f* p) { return {F32::All(p[0]), F32::All(p[1])}; }
+  ORBS_INLINE Factor operator-(Factor f) const { return {re - f.re, im - f.im}; }
+};
+
+// One element of a vector as a factor: for all its elements, or for those of its own quarter.
+template <int kParts, int element>
+ORBS_INLINE Factor<kParts> FactorOf(F32 a) {
+  if constexpr (kParts == 1) {
+    return {AllOf<element>(a)};
+  } else {
+    return {AllOf<2 * element>(a), AllOf<2 * element + 1>(a)};
+  }
+}
+template <int kParts, int element>
+ORBS_INLINE Factor<kParts> QuarterFactorOf(F32 a) {
+  if constexpr (kParts == 1) {
+    return {AllOfQuarter<element>(a)};
+  } else {
+    return {AllOfQuarter<2 * element>(a), AllOfQuarter<2 * element + 1>(a)};
+  }
+}
+
+template <int kParts>
+struct RowSum;
+template <>
+struct RowSum<1> {
+  F32 a;
+  static ORBS_INLINE RowSum Of(Factor<1> f, F32 row) { return {f.re * row}; }
+  static ORBS_INLINE RowSum From(F32 start) { return {start}; }
+  ORBS_INLINE void Add(Factor<1> f, F32 row) { a = MulAdd(f.re, row, a); }
+  ORBS_INLINE void Add(RowSum other) { a = a + other.a; }
+  ORBS_INLINE F32 Value() const { return a; }
+};
+template <>
+struct RowSum<2> {
+  F32 a;
+  F32 b;
+  static ORBS_INLINE RowSum Of(Factor<2> f, F32 row) { return {f.re * row, f.im * row}; }
+  static ORBS_INLINE RowSum From(F32 start) { return {start, F32::Zero()}; }
+  ORBS_INLINE void Add(Factor<2> f, F32 row) {
+    a = MulAdd(f.re, row, a);
+    b = MulAdd(f.im, row, b);
+  }
+  ORBS_INLINE void Add(RowSum other) {
+    a = a + other.a;
+    b = b + other.b;
+  }
+  ORBS_INLINE F32 Value() const { return AddRotated(a, b); }
+};
+
+// What turns w into v. kReach rows reach from the low quarter into the high one: as many as the order, if the
+// quarter has so many elements.
+template <int kParts, int kReach>
+class Silence {
+ public:
+  static constexpr int kElements = kQuarterParts / kParts;
+
+  // rows: T[1] to T[kReach].
+  ORBS_INLINE explicit Silence(const F32 (&rows)[kReach]) {
+    Orb32f moved[kQuarterParts + kVectorParts] = {};
+    rows[0].Store(moved + kQuarterParts);
+    ForConstants<kElements - 1>(
+        [&](auto e) { LoadQuarterToAll(moved + kQuarterParts - (e + 1) * kParts, &within_[e]); });
+#ifdef __AVX__
+    ForConstants<kReach>([&](auto k) { across_[k] = LowQuarterMovedUp(rows[k]); });
+#endif
+  }
+
+  ORBS_INLINE F32 operator()(F32 w) const {
+    auto sum = RowSum<kParts>::From(w);
+    ForConstants<kElements - 1>([&](auto e) { sum.Add(QuarterFactorOf<kParts, e>(w), within_[e]); });
+#ifdef __AVX__
+    auto both = RowSum<kParts>::From(sum.Value());
+    const F32 low = both.a;
+    ForConstants<kReach>([&](auto k) { both.Add(FactorOf<kParts, kElements - 1 - k>(low), across_[k]); });
+    return both.Value();
+#else
+    return sum.Value();
+#endif
+  }
+
+ private:
+  F32 within_[kElements - 1];
+#ifdef __AVX__
+  F32 across_[kReach];
+#endif
+};
+
+// ---- Orders 1 to 4 ----
+
+template <int kParts, int kOrder>
+class ShortRecursion {
+ public:
+  static constexpr int kElements = kVectorParts / kParts;
+
+  // b[0] to b[N], and the rows of the table.
+  ORBS_INLINE ShortRecursion(const Orb32f* b, const Orb32f* rows) : ShortRecursion(b, Rows(rows)) {}
+
+  // Results first to count-1 from the input u; those before, at least N, are there.
+  ORBS_INLINE void Run(const Orb32f* u, Orb32f* y, Orb32s first, Orb32s count) {
+    constexpr size_t kVector = kVectorParts;
+    const size_t end = static_cast<size_t>(count) * kParts;
+    size_t i = static_cast<size_t>(first) * kParts;
+    LoadPast(y + i);
+    if constexpr (kTwo) {
+      for (; i + 2 * kVector <= end; i += 2 * kVector) TwoVectors(u + i, y + i);
+    }
+    for (; i + kVector <= end; i += kVector) OneVector(u + i, y + i);
+    if (i == end) return;
+    // Fewer than a vector: on a copy with zeros behind.
+    Orb32f input[kOrder * kParts + kVector] = {};
+    Orb32f results[kVector];
+    std::memcpy(input, u + i - kOrder * kParts, kOrder * kParts * sizeof *u);
+    CopyFew<kVector * sizeof *u / 2>(input + kOrder * kParts, u + i, end - i);
+    OneVector(input + kOrder * kParts, results);
+    CopyFew<kVector * sizeof *u / 2>(y + i, results, end - i);
+  }
+
+ private:
+  // Rows that reach from one vector into the next.
+  static constexpr int kWithin = kOrder < kElements ? kOrder : kElements;
+  static constexpr int kQuarter = kQuarterParts / kParts;
+  static constexpr bool kTwo = RowVectors(kOrder) == 2;
+  static constexpr int kStride = RowParts(kOrder);
+  // A sum of so many products is made in two halves.
+  static constexpr bool kSplit = kOrder > 2;
+  // Rows that reach from quarter to quarter.
+  static constexpr int kReach = kOrder < kQuarter ? kOrder : kQuarter;
+
+  // The table's rows. For order 2 it has T[1] + T[2] and T[2], for
+  //   y[n-1] T[1] + y[n-2] T[2] = y[n-1] (T[1] + T[2]) + (y[n-2] - y[n-1]) T[2]
+  // With poles close to 1, which is what low frequencies mean, T[1] and T[2] are large and nearly cancel;
+  // their sum is close to 1 and holds what decides about the filter to the last bit, and the difference of
+  // results is small. Without this a low-pass at a thousandth of the sample rate would have the wrong gain.
+  struct Rows {
+    F32 plain[kOrder];
+    F32 near[kOrder];
+    F32 far[kOrder];
+
+    ORBS_INLINE explicit Rows(const Orb32f* table) {
+      ForConstants<kOrder>([&](auto k) {
+        plain[k] = near[k] = F32::Load(table + k * kStride);
+        far[k] = kTwo ? F32::Load(table + k * kStride + kVectorParts) : near[k];
+      });
+      if constexpr (kOrder == 2) plain[0] = near[0] - near[1];
+    }
+    ORBS_INLINE Silence<kParts, kReach> MakeSilence() const {
+      F32 reaching[kReach];
+      ForConstants<kReach>([&](auto k) { reaching[k] = plain[k]; });
+      return Silence<kParts, kReach>(reaching);
+    }
+  };
+
+  ORBS_INLINE ShortRecursion(const Orb32f* b, const Rows& rows) : rows_(rows), silence_(rows.MakeSilence()) {
+    ForConstants<kOrder + 1>([&](auto k) { b_[k] = Factor<kParts>::Load(b + k * kParts); });
+  }
+
+  ORBS_INLINE F32 Numerator(const Orb32f* u) const {
+    auto sum = RowSum<kParts>::Of(b_[kOrder], F32::Load(u - kOrder * kParts));
+    ForConstants<kOrder>(
+        [&](auto k) { sum.Add(b_[kOrder - 1 - k], F32::Load(u - (kOrder - 1 - k) * kParts)); });
+    return sum.Value();
+  }
+
+  // y[n-1-k].
+  template <int k>
+  ORBS_INLINE Factor<kParts> Past() const {
+    if constexpr (k < kElements) {
+      return FactorOf<kParts, kElements - 1 - k>(newer_);
+    } else {
+      return FactorOf<kParts, 2 * kElements - 1 - k>(older_);
+    }
+  }
+
+  // Two vectors whose last elements are the N results before y.
+  ORBS_INLINE void LoadPast(const Orb32f* y) {
+    Orb32f past[2 * kVectorParts] = {};
+    std::memcpy(past + 2 * kVectorParts - kOrder * kParts, y - kOrder * kParts, kOrder * kParts * sizeof *y);
+    older_ = F32::Load(past);
+    newer_ = F32::Load(past + kVectorParts);
+  }
+
+  ORBS_INLINE F32 AddPast(F32 v, const F32 (&rows)[kOrder]) const {
+    auto sum = RowSum<kParts>::From(v);
+    if constexpr (kOrder == 2) {
+      const auto last = Past<0>();
+      const auto change = Past<1>() - last;
+      sum.Add(last, rows[0]);
+      sum.Add(change, rows[1]);
+    } else if constexpr (kSplit) {
+      auto other = RowSum<kParts>::Of(Past<kOrder - 1>(), rows[kOrder - 1]);
+      ForConstants<kOrder / 2 - 1>([&](auto k) { other.Add(Past<kOrder - 2 - k>(), rows[kOrder - 2 - k]); });
+      ForConstants<kOrder - kOrder / 2>([&](auto k) { sum.Add(Past<k>(), rows[k]); });
+      sum.Add(other);
+    } else {
+      ForConstants<kOrder>([&](auto k) { sum.Add(Past<kOrder - 1 - k>(), rows[kOrder - 1 - k]); });
+    }
+    return sum.Value();
+  }
+
+  ORBS_INLINE void OneVector(const Orb32f* u, Orb32f* y) {
+    const F32 result = AddPast(silence_(Numerator(u)), rows_.near);
+    result.Store(y);
+    older_ = newer_;
+    newer_ = result;
+  }
+
+  ORBS_INLINE void TwoVectors(const Orb32f* u, Orb32f* y) {
+    const F32 v0 = silence_(Numerator(u));
+    auto v1 = RowSum<kParts>::From(silence_(Numerator(u + kVectorParts)));
+    ForConstants<kWithin>([&](auto k) { v1.Add(FactorOf<kParts, kElements - 1 - k>(v0), rows_.plain[k]); });
+    const F32 y0 = AddPast(v0, rows_.near);
+    const F32 y1 = AddPast(v1.Value(), rows_.far);
+    y0.Store(y);
+    y1.Store(y + kVectorParts);
+    older_ = y0;
+    newer_ = y1;
+  }
+
+  Rows rows_;
+  Silence<kParts, kReach> silence_;
+  Factor<kParts> b_[kOrder + 1];
+  F32 older_;
+  F32 newer_;
+};
+
+// ---- Orders from 5 ----
+
+// In y stand w from `first` on, and results before; w becomes results up to count-1. A round makes one
+// vector: the rows come from memory, four sums keep the multiply-adders busy, and the most recent results
+// come last.
+template <int kParts>
+void LongRecursion(const Orb32f* rows, Orb32s order, Orb32f* y, Orb32s first, Orb32s count) {
+  constexpr size_t kVector = kVectorParts;
+  constexpr int kReach = kQuarterParts / kParts;
+  F32 reaching[kReach];
+  ForConstants<kReach>([&](auto k) { reaching[k] = F32::Load(rows + k * kVectorParts); });
+  const Silence<kParts, kReach> silence(reaching);
+  const auto vector = [&](const Orb32f* w, const Orb32f* now) {
+    RowSum<kParts> sum[4] = {RowSum<kParts>::From(silence(F32::Load(w))), RowSum<kParts>::From(F32::Zero()),
+                             RowSum<kParts>::From(F32::Zero()), RowSum<kParts>::From(F32::Zero())};
+    const Orb32f* past = now - int64_t{order} * kParts;
+    const Orb32f* row = rows + (int64_t{order} - 1) * kVectorParts;
+    Orb32s k = order;
+    for (; k % 4 != 0; --k, past += kParts, row -= kVectorParts) {
+      sum[1].Add(Factor<kParts>::Load(past), F32::Load(row));
+    }
+    for (; k > 0; k -= 4, past += 4 * kParts, row -= 4 * kVectorParts) {
+      ForConstants<4>([&](auto j) {
+        sum[j].Add(Factor<kParts>::Load(past + j * kParts), F32::Load(row - j * kVectorParts));
+      });
+    }
+    sum[0].Add(sum[1]);
+    sum[2].Add(sum[3]);
+    sum[0].Add(sum[2]);
+    return sum[0].Value();
+  };
+  const size_t end = static_cast<size_t>(count) * kParts;
+  size_t i = static_cast<size_t>(first) * kParts;
+  for (; i + kVector <= end; i += kVector) vector(y + i, y + i).Store(y + i);
+  if (i == end) return;
+  Orb32f few[kVector] = {};
+  std::memcpy(few, y + i, (end - i) * sizeof *y);
+  vector(few, y + i).Store(few);
+  std::memcpy(y + i, few, (end - i) * sizeof *y);
+}
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif
+#endif

@@ -1,0 +1,166 @@
+// Streams in pieces: a piece is widened to floating point, filtered there, and delivered. It is read whole
+// before anything is written, so that in place needs nothing more.
+#include "iir/run.h"
+
+#include <utility>
+
+#include "fir/block_kernels.h"
+#include "frame/blocks.h"
+#include "frame/toolkit.h"
+#include "iir/look_ahead.h"
+#include "iir/step.h"
+
+namespace orbs::ORBS_VARIANT {
+namespace {
+
+#if ORBS_VECTOR
+
+// y * factor, clamped, to the nearest integer with ties to even. Of a NaN and a number Max gives the second
+// operand: a NaN ends at the lower bound.
+void DeliverPiece(const Orb32f* y, Orb16s* dst, Orb32s parts, Orb32f factor) {
+  const F32 scale = F32::All(factor);
+  const auto rounded = [scale](const Orb32f* from) {
+    return RoundToInt(Min(Max(F32::Load(from) * scale, F32::All(-32768.0f)), F32::All(32767.0f)));
+  };
+  ForBlocks<2 * F32::kLanes>(
+      static_cast<size_t>(parts),
+      [rounded](Orb16s* to, const Orb32f* from) {
+        StorePacked(to, rounded(from), rounded(from + F32::kLanes));
+      },
+      dst, y);
+}
+
+// ---- Arbitrary order ----
+
+template <int kParts, int kOrder>
+void RunShort(const Orb32f* b, const Orb32f* rows, const Orb32f* u, Orb32f* y, Orb32s count) {
+  ShortRecursion<kParts, kOrder>(b, rows).Run(u, y, kOrder, count);
+}
+
+// The numerators are a FIR filter over the piece; they stand where their results will.
+template <class Work>
+void RunLong(const Work* b, const Orb32f* rows, Orb32s order, const Work* x, Work* y, Orb32s count) {
+  constexpr int kParts = PartsOf<Work>::kCount;
+  Work reversed[kIirPiece / 4 + 1];
+  for (Orb32s k = 0; k <= order; ++k) reversed[k] = b[order - k];
+  FirSums(x, reversed, order + 1, y + order, static_cast<size_t>(count - order));
+  LongRecursion<kParts>(rows, order, Parts(y), order, count);
+}
+
+// The first N samples go through the delay line as single ones do; then the results themselves are the past.
+// At the end the delay line is what the last N samples and results leave there.
+template <class Kind>
+const typename Kind::Work* FilterPiece(IirView<Kind> view, Orb32s count) {
+  using N = StepNumber<Kind>;
+  constexpr int kParts = Kind::kParts;
+  const Orb32s order = view.state->delayLen;
+  const auto* const x = view.BlockA();
+  auto* const y = view.BlockB();
+  for (Orb32s i = 0; i < order; ++i) StepArbitraryOrder(view, N::From(x[i])).To(y + i);
+  const Orb32f* const b = Parts(view.Taps());
+  const Orb32f* const rows = view.LookAheadTable();
+  switch (order) {
+    case 1:
+      RunShort<kParts, 1>(b, rows, Parts(x), Parts(y), count);
+      break;
+    case 2:
+      RunShort<kParts, 2>(b, rows, Parts(x), Parts(y), count);
+      break;
+    case 3:
+      RunShort<kParts, 3>(b, rows, Parts(x), Parts(y), count);
+      break;
+    case 4:
+      RunShort<kParts, 4>(b, rows, Parts(x), Parts(y), count);
+      break;
+    default:
+      RunLong(view.Taps(), rows, order, x, y, count);
+  }
+  for (Orb32s i = count - order; i < count; ++i) UpdateDelay(view, N::From(x[i]), N::From(y[i]));
+  return y;
+}
+
+// ---- Biquads ----
+
+// One section over the piece, from u into y.
+template <class Work>
+void FilterSection(const Work* t, const Orb32f* rows, Work* d, const Work* u, Work* y, Orb32s count) {
+  constexpr int kParts = PartsOf<Work>::kCount;
+  using N = Number<Orb32f, kParts>;
+  const N b0 = N::From(t[0]);
+  const N b1 = N::From(t[1]);
+  const N b2 = N::From(t[2]);
+  const N a1 = N::From(t[3]);
+  const N a2 = N::From(t[4]);
+  const N u0 = N::From(u[0]);
+  const N y0 = b0 * u0 + N::From(d[0]);
+  y0.To(y);
+  (b1 * u0 + b0 * N::From(u[1]) + N::From(d[1]) - a1 * y0).To(y + 1);
+  ShortRecursion<kParts, 2>(Parts(t), rows).Run(Parts(u), Parts(y), 2, count);
+  const N u1 = N::From(u[count - 1]);
+  const N y1 = N::From(y[count - 1]);
+  (b2 * N::From(u[count - 2]) + b1 * u1 - a1 * y1 - a2 * N::From(y[count - 2])).To(d);
+  (b2 * u1 - a2 * y1).To(d + 1);
+}
+
+// The sections hand the piece from block to block.
+template <class Kind>
+const typename Kind::Work* FilterCascadePiece(IirView<Kind> view, Orb32s count) {
+  auto* u = view.BlockA();
+  auto* y = view.BlockB();
+  const auto* t = view.Taps();
+  auto* d = view.Delay();
+  const Orb32f* rows = view.LookAheadTable();
+  for (Orb32s s = 0; s < view.state->sectionCount; ++s) {
+    FilterSection(t, rows, d, u, y, count);
+    std::swap(u, y);
+    t += 5;
+    d += 2;
+    rows += 2 * RowParts(2);
+  }
+  return u;
+}
+
+template <class Kind>
+void RunPiece(IirView<Kind> view, const typename Kind::Data* src, typename Kind::Data* dst, Orb32s count,
+              Orb32f factor) {
+  const Orb32s parts = count * Kind::kParts;
+  VecConvert_16s32f(Parts(src), Parts(view.BlockA()), parts);
+  const typename Kind::Work* results;
+  if constexpr (Kind::kCascade) {
+    results = FilterCascadePiece(view, count);
+  } else {
+    results = FilterPiece(view, count);
+  }
+  DeliverPiece(Parts(results), Parts(dst), parts, factor);
+}
+
+#endif
+
+}  // namespace
+
+template <class Kind>
+void RunIir(IirView<Kind> view, const typename Kind::Data* src, typename Kind::Data* dst, Orb32s count,
+            Orb32s scaleFactor) {
+  const Orb32f factor = InversePowerOfTwoModulo128(scaleFactor);
+#if ORBS_VECTOR
+  for (Orb32s done = 0; done < count;) {
+    const Orb32s piece = count - done < kIirPiece ? count - done : kIirPiece;
+    // Short of that the first samples and the tables cost more than they yield.
+    if (piece <= 4 * int64_t{view.Units()}) {
+      RunSteps(view, src + done, dst + done, piece, factor);
+    } else {
+      RunPiece(view, src + done, dst + done, piece, factor);
+    }
+    done += piece;
+  }
+#else
+  RunSteps(view, src, dst, count, factor);
+#endif
+}
+
+template void RunIir(IirView<ArbitraryOrderOf<RealNumbers>>, const Orb16s*, Orb16s*, Orb32s, Orb32s);
+template void RunIir(IirView<CascadeOf<RealNumbers>>, const Orb16s*, Orb16s*, Orb32s, Orb32s);
+template void RunIir(IirView<ArbitraryOrderOf<ComplexNumbers>>, const Orb16sc*, Orb16sc*, Orb32s, Orb32s);
+template void RunIir(IirView<CascadeOf<ComplexNumbers>>, const Orb16sc*, Orb16sc*, Orb32s, Orb32s);
+
+}  // namespace orbs::ORBS_VARIANT

@@ -1,0 +1,233 @@
+// IIR filters as streams, in every variant, against the formula in extended precision.
+#include <algorithm>
+#include <limits>
+
+#include "iir_filters.h"
+#include "support/export_test.h"
+#include "support/guarded_array.h"
+#include "support/random_data.h"
+
+namespace orbs::test {
+namespace {
+
+class IirFilterTest : public ExportTest {
+ protected:
+  bool IsPx() const { return GetParam() == Variant::px; }
+
+  // Runs x through the state in calls of these sizes, over and over: 0 is a one-sample call, a negative count
+  // a block in place.
+  template <class F>
+  static std::vector<typename F::Data> Run(IIRState* state, const std::vector<typename F::Data>& x,
+                                           const std::vector<int>& counts, Orb32s scaleFactor) {
+    using Data = typename F::Data;
+    std::vector<Data> y;
+    for (size_t call = 0; y.size() < x.size(); ++call) {
+      const int count = counts[call % counts.size()];
+      const size_t size =
+          std::min(static_cast<size_t>(count == 0 ? 1 : std::abs(count)), x.size() - y.size());
+      const auto first = x.begin() + static_cast<ptrdiff_t>(y.size());
+      const std::vector<Data> piece(first, first + static_cast<ptrdiff_t>(size));
+      const GuardedArray<Data> source(piece, call % 3);
+      GuardedArray<Data> result(size, call % 2);
+      if (count == 0) {
+        EXPECT_EQ(F::One(source[0], result.data(), state, scaleFactor), StatusOk);
+      } else if (count > 0) {
+        EXPECT_EQ(F::Block(source.data(), result.data(), static_cast<Orb32s>(size), state, scaleFactor),
+                  StatusOk);
+      } else {
+        std::copy(piece.begin(), piece.end(), result.data());
+        EXPECT_EQ(F::InPlace(result.data(), static_cast<Orb32s>(size), state, scaleFactor), StatusOk);
+      }
+      EXPECT_TRUE(result.GuardsIntact());
+      const auto values = result.values();
+      y.insert(y.end(), values.begin(), values.end());
+    }
+    return y;
+  }
+
+  // Results are whole numbers: beside the half that rounding takes, `error` in units of the last place.
+  template <class F>
+  static void ExpectNear(const std::vector<typename F::Data>& y, const std::vector<Exact>& expected,
+                         Orb32s scaleFactor, double error, const std::string& what) {
+    const auto near = [error](long double result, long double exact) {
+      const long double limited = std::min(32767.0L, std::max(-32768.0L, exact));
+      return std::abs(result - limited) <= 0.5L + error;
+    };
+    for (size_t i = 0; i < y.size(); ++i) {
+      const Exact result = ToExact(y[i]);
+      const Exact exact = expected[i] * std::ldexp(1.0L, -scaleFactor);
+      ASSERT_TRUE(near(result.real(), exact.real()) && near(result.imag(), exact.imag()))
+          << F::kName << ", " << what << ", sample " << i << ": " << result << ", expected " << exact;
+    }
+  }
+
+  template <class F>
+  static std::vector<Exact> ExactResults(const std::vector<typename F::Tap>& taps, int units,
+                                         const std::vector<typename F::Data>& x) {
+    ExactFilter<F> exact(taps, units);
+    std::vector<Exact> results;
+    for (const auto& sample : x) results.push_back(exact(ToExact(sample)));
+    return results;
+  }
+};
+ORBS_INSTANTIATE_VARIANTS(IirFilterTest);
+
+// In exactly the bytes reported, at any address. The cuts reach both sides of the smallest block that takes
+// the look-ahead, every remainder of its vectors, and pieces of 1024.
+TEST_P(IirFilterTest, StreamsCutAnywhereInMemoryOfTheCaller) {
+  ForEachIir([](auto filter) {
+    using F = decltype(filter);
+    for (int units : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 13, 16, 20, 27, 40}) {
+      if (F::kCascade && units > 20) continue;
+      Orb32s size = 0;
+      ASSERT_EQ(F::Size(units, &size), StatusOk);
+      GuardedArray<unsigned char> memory(static_cast<size_t>(size), static_cast<size_t>(units % 33));
+      const auto taps = StableTaps<F>(units, 1000 + static_cast<uint32_t>(units), 0.7);
+      IIRState* state = nullptr;
+      ASSERT_EQ(F::Init(&state, taps.data(), units, kFractionalBits, nullptr, memory.data()), StatusOk);
+      const int least = 4 * units + 1;
+      const std::vector<int> cuts = {1,         0,         least,        -(least + 1), least + 2, 0,
+                                     0,         least + 3, -(least - 1), least + 4,    2,         least + 5,
+                                     least + 6, 5,         least + 7,    -1100};
+      const auto x = RandomArray<typename F::Data>(static_cast<size_t>(11 * least + 1300), 2);
+      const auto y = Run<F>(state, x, cuts, 0);
+      ASSERT_TRUE(memory.GuardsIntact()) << F::kName << ", " << units;
+      ExpectNear<F>(y, ExactResults<F>(taps, units, x), 0, 0.2, std::to_string(units) + " units");
+      EXPECT_EQ(F::Free(state), StatusOk);
+    }
+  });
+}
+
+// px is exact in this: its block form is the one-sample form, sample for sample.
+TEST_P(IirFilterTest, BlocksAndSingleSamplesGiveOneStream) {
+  ForEachFloatIir([&](auto filter) {
+    using F = decltype(filter);
+    for (int units : {1, 2, 3, 4, 5, 8, 13}) {
+      const auto taps = StableTaps<F>(units, 3, 0.9);
+      const auto x = RandomArray<typename F::Data>(5000, 4);
+      IIRState* whole = nullptr;
+      IIRState* cut = nullptr;
+      ASSERT_EQ(F::InitAlloc(&whole, taps.data(), units, 0, nullptr), StatusOk);
+      ASSERT_EQ(F::InitAlloc(&cut, taps.data(), units, 0, nullptr), StatusOk);
+      const auto one = Run<F>(whole, x, {5000}, 0);
+      const auto other = Run<F>(cut, x, {0, 0, 0, 700, 1, 3, -60}, 0);
+      for (size_t i = 0; i < x.size(); ++i) {
+        const Exact difference = ToExact(one[i]) - ToExact(other[i]);
+        ASSERT_LE(std::max(std::abs(difference.real()), std::abs(difference.imag())), IsPx() ? 0 : 1)
+            << F::kName << ", " << units << " units, sample " << i;
+      }
+      F::Free(whole);
+      F::Free(cut);
+    }
+  });
+}
+
+// Poles at 0.9995 of the unit circle ring for thousands of samples. The bound is on the error of a result, in
+// units of the last place of a signal that reaches some thousands: a few of binary32's own.
+TEST_P(IirFilterTest, LongStreamsNearTheUnitCircle) {
+  ForEachFloatIir([&](auto filter) {
+    using F = decltype(filter);
+    const std::vector<int> sizes = F::kCascade ? std::vector<int>{1, 3} : std::vector<int>{1, 2, 4};
+    for (int units : sizes) {
+      const auto taps = StableTaps<F>(units, 5, 0.9995);
+      auto x = RandomArray<typename F::Data>(60000, 6);
+      IIRState* state = nullptr;
+      ASSERT_EQ(F::InitAlloc(&state, taps.data(), units, 0, nullptr), StatusOk);
+      const auto y = Run<F>(state, x, {4096, 0, 1000, 37}, -2);
+      ExpectNear<F>(y, ExactResults<F>(taps, units, x), -2, 0.5, std::to_string(units) + " units");
+      F::Free(state);
+    }
+  });
+}
+
+// A low-pass of the kind that an equaliser has: both poles close to 1, where look-ahead rows are largest.
+TEST_P(IirFilterTest, LowFrequencies) {
+  const double w = 0.01;
+  const double alpha = std::sin(w) / 1.4;
+  const double c = std::cos(w);
+  std::vector<Orb32f> taps;
+  for (double t : {(1 - c) / 2, 1 - c, (1 - c) / 2, 1 + alpha, -2 * c, 1 - alpha}) {
+    taps.push_back(static_cast<Orb32f>(t));
+  }
+  // What the state holds: rounded quotients are its filter.
+  std::vector<Orb32f> held = taps;
+  for (Orb32f& t : held) t = static_cast<Orb32f>(t * (1.0 / static_cast<double>(taps[3])));
+  held[3] = 1;
+  IIRState* state = nullptr;
+  ASSERT_EQ(FloatBiQuad::InitAlloc(&state, taps.data(), 1, 0, nullptr), StatusOk);
+  std::vector<Orb16s> x(20000, 8000);
+  for (size_t i = 0; i < x.size(); i += 3) x[i] = static_cast<Orb16s>(i % 16001) - 8000;
+  const auto y = Run<FloatBiQuad>(state, x, {3000, 0, 517}, 0);
+  ExpectNear<FloatBiQuad>(y, ExactResults<FloatBiQuad>(held, 1, x), 0, 2.5, "low-pass");
+  FloatBiQuad::Free(state);
+}
+
+// The result saturates, the recursion does not: an integrator returns the way it came.
+TEST_P(IirFilterTest, SaturatesTheResultAlone) {
+  const Orb32f taps[] = {1, 0, 1, -1};
+  for (int single : {0, 1}) {
+    IIRState* state = nullptr;
+    ASSERT_EQ(FloatOrder::InitAlloc(&state, taps, 1, 0, nullptr), StatusOk);
+    std::vector<Orb16s> x(20, 10000);
+    x.insert(x.end(), 60, -10000);
+    const auto y = Run<FloatOrder>(state, x, {single == 1 ? 0 : 80}, 0);
+    int sum = 0;
+    for (size_t i = 0; i < x.size(); ++i) {
+      sum += x[i];
+      ASSERT_EQ(y[i], std::min(32767, std::max(-32768, sum))) << i;
+    }
+    Orb32s word = 0;
+    ASSERT_EQ(FloatOrder::GetDelay(state, &word), StatusOk);
+    Orb32f delay;
+    std::memcpy(&delay, &word, sizeof delay);
+    EXPECT_EQ(delay, -400000.0f);
+    FloatOrder::Free(state);
+  }
+}
+
+// Through single samples and through a block, y * 2^-s to the nearest integer.
+TEST_P(IirFilterTest, RoundsAndScales) {
+  struct Row {
+    Orb32f gain;
+    Orb32s scaleFactor;
+    Orb16s x, y;
+  };
+  const Row rows[] = {
+      {0.5f, 0, 5, 2},        {0.5f, 0, 7, 4},         {0.5f, 0, -5, -2},          {1, 1, -7, -4},
+      {1, 2, 6, 2},           {1, 2, 10, 2},           {1, -3, 100, 800},          {1, -3, 5000, 32767},
+      {1, -3, -5000, -32768}, {32767.4f, 0, 1, 32767}, {32768.6f, 0, -1, -32768},  {32767.4f, 0, -1, -32767},
+      {1, 128, 77, 77},       {1, 129, 77, 38},        {1, -129, 77, 154},         {1, 127, 20000, 0},
+      {1, -127, 1, 32767},    {1, -127, 0, 0},         {1, -2147483647 - 1, 9, 9},
+  };
+  for (const Row& row : rows) {
+    const Orb32f taps[] = {row.gain, 0, 0, 1, 0, 0};
+    IIRState* state = nullptr;
+    ASSERT_EQ(FloatBiQuad::InitAlloc(&state, taps, 1, 0, nullptr), StatusOk);
+    for (int count : {0, 1, 9, 40}) {
+      const std::vector<Orb16s> x(40, row.x);
+      const auto y = Run<FloatBiQuad>(state, x, {count}, row.scaleFactor);
+      for (size_t i = 0; i < y.size(); ++i) ASSERT_EQ(y[i], row.y) << &row - rows << ", calls of " << count;
+    }
+    FloatBiQuad::Free(state);
+  }
+}
+
+// What no longer is a number is delivered as the lower bound, as by every conversion of the library.
+TEST_P(IirFilterTest, NotANumber) {
+  const Orb32f taps[] = {1, 0, 1, -1};
+  const Orb32s nan = 0x7FC00000;
+  for (int count : {0, 40}) {
+    IIRState* state = nullptr;
+    ASSERT_EQ(FloatOrder::InitAlloc(&state, taps, 1, 0, &nan), StatusOk);
+    const auto y = Run<FloatOrder>(state, std::vector<Orb16s>(40, 3), {count}, 0);
+    for (Orb16s result : y) ASSERT_EQ(result, -32768);
+    // A delay line set anew makes the state whole, whatever its scratch has seen.
+    ASSERT_EQ(FloatOrder::SetDelay(state, nullptr), StatusOk);
+    const auto sums = Run<FloatOrder>(state, std::vector<Orb16s>(40, 3), {7, 13}, 0);
+    for (size_t i = 0; i < sums.size(); ++i) ASSERT_EQ(sums[i], 3 * static_cast<int>(i + 1));
+    FloatOrder::Free(state);
+  }
+}
+
+}  // namespace
+}  // namespace orbs::test
