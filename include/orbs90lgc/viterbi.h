@@ -44,22 +44,26 @@ extern "C" {
 /**
  * The nearest point of each subset to a received point.
  *
- * With dx and dy the distances (0 to 255) of the received point from the lattice lines at or below it, the
- * candidates are the four corners of its lattice cell and, with more than 16 states, eight points around
- * them, of which two at a time share a label:
+ * With the base point the lattice point at or below the received one in both coordinates, the candidates are
+ * the four corners of its lattice cell and, with more than 16 states, eight points around them, two at a time
+ * for one label:
  *
- * | code | offset | code | offset  | code | offset  | instead of | if                            |
- * |------|--------|------|---------|------|---------|------------|-------------------------------|
- * | 0    | (0, 0) | 4    | (0, 2)  | 8    | (2, 0)  | 4          | it is at least as near        |
- * | 1    | (1, 0) | 5    | (1, 2)  | 9    | (-1, 0) | 5          | "                             |
- * | 2    | (1, 1) | 6    | (2, 1)  | 10   | (0, -1) | 6          | "                             |
- * | 3    | (0, 1) | 7    | (1, -1) | 11   | (-1, 1) | 7          | "                             |
+ * | label at     | code | offset | or, if at least as near: code | offset  |
+ * |--------------|------|--------|-------------------------------|---------|
+ * | (c, r)       | 0    | (0, 0) |                               |         |
+ * | (c + 1, r)   | 1    | (1, 0) |                               |         |
+ * | (c + 1, r+1) | 2    | (1, 1) |                               |         |
+ * | (c, r + 1)   | 3    | (0, 1) |                               |         |
+ * | (c, r + 2)   | 4    | (0, 2) | 8                             | (2, 0)  |
+ * | (c + 1, r+2) | 5    | (1, 2) | 9                             | (-1, 0) |
+ * | (c + 1, r+3) | 6    | (2, 1) | 10                            | (0, -1) |
+ * | (c, r + 3)   | 7    | (1, -1)| 11                            | (-1, 1) |
  *
- * Offsets are in lattice steps (x, y) from the base point. Where several candidates have one label, the last
- * one in the order of this table by lines of the codes 0 to 3, then 4 to 7, stays.
+ * Labels are looked up at (column, row), modulo 4, from the column c and the row r of the base point; offsets
+ * are in lattice steps (x, y) from it. Where a label is met more than once, the last line stays.
  *
  * @param src         received point
- * @param base        receives the base point, the lattice point at or below in both coordinates
+ * @param base        receives the base point
  * @param variants    receives an entry for each label: bits 0-15 the squared distance in units of 16 (the
  * square on each axis shifted right by 4), bits 16-23 the code; other entries stay
  * @param subsetMap   16 labels, by 4 * row + column; their low 2 bits count with 16 states, else the low 3
