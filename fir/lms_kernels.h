@@ -17,62 +17,98 @@ namespace orbs::ORBS_VARIANT {
 
 #if ORBS_VECTOR
 
-template <class Sample>
-ORBS_INLINE Orb32f LmsStep(const LmsRing<Sample>& ring, Sample newest, Orb32f reference, Orb32f* taps,
-                           Orb32f mu) {
-  const LmsSplit<F32> split(ring.Count());
+template <class V, class Sample>
+ORBS_INLINE Orb32f LmsStepWith(const LmsRing<Sample>& ring, Sample newest, Orb32f reference, Orb32f* taps,
+                               Orb32f mu) {
+  const LmsSplit<V> split(ring.Count());
   const Sample* const x = ring.Samples();
-  const F32 lastTaps = split.LoadLast(taps);
-  const F32 lastSamples = split.LoadLastSamples(x, newest);
+  const V lastTaps = split.LoadLast(taps);
+  const V lastSamples = split.LoadLastSamples(x, newest);
   ring.Push(newest);
 
-  F32 sums[4] = {F32::Zero(), F32::Zero(), F32::Zero(), F32::Zero()};
+  V sums[4] = {V::Zero(), V::Zero(), V::Zero(), V::Zero()};
   split.ForVectors(
-      [&](size_t k, int turn) { sums[turn] = MulAdd(F32::Load(taps + k), LoadAs<F32>(x + k), sums[turn]); });
+      [&](size_t k, int turn) { sums[turn] = MulAdd(V::Load(taps + k), LoadAs<V>(x + k), sums[turn]); });
   sums[3] = MulAdd(split.NotYetSeen(lastTaps), split.NotYetSeen(lastSamples), sums[3]);
-  const F32 y = TotalInAll((sums[0] + sums[1]) + (sums[2] + sums[3]));
+  const V y = TotalInAll((sums[0] + sums[1]) + (sums[2] + sums[3]));
 
-  const F32 e = (F32::All(reference) - y) * F32::All(2) * F32::All(mu);
-  split.ForVectors(
-      [&](size_t k, int) { MulAdd(e, LoadAs<F32>(x + k), F32::Load(taps + k)).Store(taps + k); });
-  const F32 moved = MulAdd(e, lastSamples, lastTaps);
-  split.StoreLast(taps, [&](Orb32f* to) { moved.Store(to); });
+  const V e = (V::All(reference) - y) * V::All(2) * V::All(mu);
+  split.ForVectors([&](size_t k, int) { MulAdd(e, LoadAs<V>(x + k), V::Load(taps + k)).Store(taps + k); });
+  split.StoreLast(taps, [&](Orb32f* to) { MulAdd(e, lastSamples, lastTaps).Store(to); });
   return FirstLane(y);
 }
+
+template <class Sample>
+Orb32f LmsStep(const LmsRing<Sample>& ring, Sample newest, Orb32f reference, Orb32f* taps, Orb32f mu) {
+  return WithVectorFor<F32, F32x4>(ring.Count(), [&](auto* vector) {
+    return LmsStepWith<std::remove_pointer_t<decltype(vector)>>(ring, newest, reference, taps, mu);
+  });
+}
+
+// What the first pass has widened, kept for the second: the conversions cost more than the arithmetic. Below
+// 16 taps there is little to save; the buffers for 128 are 2 KiB on the stack.
+inline constexpr size_t kLmsKeepFrom = 16;
+inline constexpr size_t kLmsKeepTo = 128;
 
 // A tap and its move are rounded apart, not fused, so that the variants agree bit for bit. Beyond the upper
 // bound the tap is limited; beyond the lower one the conversion itself gives -2^31.
-ORBS_INLINE void StoreMovedQ15(Orb32s* to, F64 tap, F64 g, F64 sample) {
-  StoreRounded(to, Min(tap + g * sample, F64::All(2147483647.0)));
+template <class V>
+ORBS_INLINE void StoreMovedQ15(Orb32s* to, V tap, V g, V sample) {
+  StoreRounded(to, Min(tap + g * sample, V::All(2147483647.0)));
 }
 
-ORBS_INLINE Orb64f LmsStepQ15(const LmsRing<Orb16s>& ring, Orb16s newest, Orb16s reference, Orb32s* taps,
-                              Orb32s mu) {
-  const LmsSplit<F64> split(ring.Count());
+template <class V, bool kKeep>
+ORBS_INLINE Orb64f LmsStepQ15With(const LmsRing<Orb16s>& ring, Orb16s newest, Orb16s reference, Orb32s* taps,
+                                  Orb32s mu) {
+  const LmsSplit<V> split(ring.Count());
   const Orb16s* const x = ring.Samples();
-  const F64 lastTaps = split.LoadLast(taps);
-  const F64 lastSamples = split.LoadLastSamples(x, newest);
+  const V lastTaps = split.LoadLast(taps);
+  const V lastSamples = split.LoadLastSamples(x, newest);
   ring.Push(newest);
 
+  alignas(V) Orb64f keptTaps[kKeep ? kLmsKeepTo : 1];
+  alignas(V) Orb64f keptSamples[kKeep ? kLmsKeepTo : 1];
   // Products are exact, and sums too below 2^53.
-  F64 sums[4] = {F64::Zero(), F64::Zero(), F64::Zero(), F64::Zero()};
-  F64 energies[4] = {F64::Zero(), F64::Zero(), F64::Zero(), F64::Zero()};
-  const auto add = [&](F64 tap, F64 sample, int turn) {
+  V sums[4] = {V::Zero(), V::Zero(), V::Zero(), V::Zero()};
+  V energies[4] = {V::Zero(), V::Zero(), V::Zero(), V::Zero()};
+  const auto add = [&](V tap, V sample, int turn) {
     sums[turn] = MulAdd(tap, sample, sums[turn]);
     energies[turn] = MulAdd(sample, sample, energies[turn]);
   };
-  split.ForVectors([&](size_t k, int turn) { add(LoadAs<F64>(taps + k), LoadAs<F64>(x + k), turn); });
+  split.ForVectors([&](size_t k, int turn) {
+    const V tap = LoadAs<V>(taps + k);
+    const V sample = LoadAs<V>(x + k);
+    if constexpr (kKeep) {
+      tap.Store(keptTaps + k);
+      sample.Store(keptSamples + k);
+    }
+    add(tap, sample, turn);
+  });
   add(split.NotYetSeen(lastTaps), split.NotYetSeen(lastSamples), 3);
-  const F64 y = TotalInAll((sums[0] + sums[1]) + (sums[2] + sums[3])) * F64::All(0x1p-15);
-  const F64 energy = TotalInAll((energies[0] + energies[1]) + (energies[2] + energies[3]));
+  const V y = TotalInAll((sums[0] + sums[1]) + (sums[2] + sums[3])) * V::All(0x1p-15);
+  const V energy = TotalInAll((energies[0] + energies[1]) + (energies[2] + energies[3]));
+  if (FirstLane(energy) == 0) return FirstLane(y);
 
-  if (FirstLane(energy) != 0) {
-    const F64 g = F64::All(mu) * (F64::All(reference) - y) * (F64::All(1) / energy);
-    split.ForVectors(
-        [&](size_t k, int) { StoreMovedQ15(taps + k, LoadAs<F64>(taps + k), g, LoadAs<F64>(x + k)); });
-    split.StoreLast(taps, [&](Orb32s* to) { StoreMovedQ15(to, lastTaps, g, lastSamples); });
-  }
+  const V g = V::All(mu) * (V::All(reference) - y) * (V::All(1) / energy);
+  split.ForVectors([&](size_t k, int) {
+    if constexpr (kKeep) {
+      StoreMovedQ15(taps + k, V::Load(keptTaps + k), g, V::Load(keptSamples + k));
+    } else {
+      StoreMovedQ15(taps + k, LoadAs<V>(taps + k), g, LoadAs<V>(x + k));
+    }
+  });
+  split.StoreLast(taps, [&](Orb32s* to) { StoreMovedQ15(to, lastTaps, g, lastSamples); });
   return FirstLane(y);
+}
+
+inline Orb64f LmsStepQ15(const LmsRing<Orb16s>& ring, Orb16s newest, Orb16s reference, Orb32s* taps,
+                         Orb32s mu) {
+  const size_t n = ring.Count();
+  if (n >= kLmsKeepFrom && n <= kLmsKeepTo)
+    return LmsStepQ15With<F64, true>(ring, newest, reference, taps, mu);
+  return WithVectorFor<F64, F64x2>(n, [&](auto* vector) {
+    return LmsStepQ15With<std::remove_pointer_t<decltype(vector)>, false>(ring, newest, reference, taps, mu);
+  });
 }
 
 #else

@@ -3,15 +3,17 @@
 // The n elements are split into whole vectors from the front, and one last vector that ends with the array.
 // The last one overlaps the one before where n is no multiple of a vector. It is loaded before anything is
 // stored and stays in registers from the sums to the update: the lanes seen twice are left out of the sums,
-// and updated twice they become the same numbers. Below a vector there is the last one alone, with zeros in
-// front.
+// and updated twice they become the same numbers. Below a vector, kernels take one of 128
+// bits, and below that the last one alone, with zeros in front, put together lane by lane.
 //
 // The newest sample, its last lane, comes from the argument and not from the ring: a load of a vector must
 // wait until a single element stored just before has reached the cache, and with it would wait the output.
 #ifndef ORBS_FIR_LMS_WALK_H
 #define ORBS_FIR_LMS_WALK_H
 
-#include "frame/blocks.h"
+#include <cstddef>
+#include <type_traits>
+
 #include "frame/simd.h"
 
 #if ORBS_VECTOR
@@ -24,14 +26,24 @@ ORBS_INLINE V LoadAs(const T* p) {
   V lanes;
   if constexpr (std::is_same_v<T, typename V::Lane>) {
     lanes = V::Load(p);
-  } else if constexpr (std::is_same_v<V, F32>) {
-    I32 integers;
+  } else if constexpr (std::is_same_v<typename V::Lane, Orb32f>) {
+    std::conditional_t<std::is_same_v<V, F32>, I32, I32x4> integers;
     LoadWiden(p, &integers);
     lanes = ToFloat(integers);
   } else {
     LoadWiden(p, &lanes);
   }
   return lanes;
+}
+
+// Calls step with a null pointer of the vector type to take for n elements: V, or Short, of 128 bits, where
+// n does not fill V.
+template <class V, class Short, class Step>
+ORBS_INLINE auto WithVectorFor(size_t n, Step step) {
+  if constexpr (!std::is_same_v<V, Short>) {
+    if (n < V::kLanes) return step(static_cast<Short*>(nullptr));
+  }
+  return step(static_cast<V*>(nullptr));
 }
 
 template <class V>
@@ -87,10 +99,16 @@ class LmsSplit {
 
   template <class T>
   ORBS_INLINE V LoadLast(const T* p) const {
-    if (n_ >= kLanes) return LoadAs<V>(p + n_ - kLanes);
-    T padded[kLanes] = {};
-    CopyFew<kLanes * sizeof(T) / 2>(padded + kLanes - n_, p, n_);
-    return LoadAs<V>(padded);
+    if (!IsFew()) return LoadAs<V>(p + n_ - kLanes);
+    V lanes = V::Zero();
+    ORBS_UNROLL
+    for (size_t last = kLanes - 1; last > 0; --last) {
+      if (last <= n_) {
+        const auto element = static_cast<typename V::Lane>(p[n_ - last]);
+        lanes = Select(LastLanesMask<V>(last), V::All(element), lanes);
+      }
+    }
+    return lanes;
   }
 
   template <class T>
@@ -105,17 +123,23 @@ class LmsSplit {
   // store(to) writes a vector of results.
   template <class T, class StoreVector>
   ORBS_INLINE void StoreLast(T* p, StoreVector store) const {
-    if (n_ >= kLanes) {
+    if (!IsFew()) {
       store(p + n_ - kLanes);
       return;
     }
-    T padded[kLanes];
-    store(padded);
-    CopyFew<kLanes * sizeof(T) / 2>(p, padded + kLanes - n_, n_);
+    T lanes[kLanes];
+    store(lanes);
+    ORBS_UNROLL
+    for (size_t last = kLanes - 1; last > 0; --last) {
+      if (last <= n_) p[n_ - last] = lanes[kLanes - last];
+    }
   }
 
  private:
   static constexpr size_t kLanes = V::kLanes;
+
+  // Vectors above 128 bits come only where n fills one.
+  ORBS_INLINE bool IsFew() const { return sizeof(V) == 16 && n_ < kLanes; }
 
   size_t n_;
   size_t whole_;  // elements in whole vectors, a multiple of kLanes

@@ -72,7 +72,7 @@ void CompareTapCount(Orb32s n) {
 }
 
 void Declare() {
-  for (const Orb32s n : {5, 8, 16, 30, 32, 64, 100, 256}) CompareTapCount(n);
+  for (const Orb32s n : {1, 3, 5, 8, 16, 30, 32, 64, 100, 256}) CompareTapCount(n);
 }
 
 const Family family(kEveryVariant, Declare);
