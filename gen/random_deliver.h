@@ -25,12 +25,13 @@ ORBS_INLINE void DeliverRandom(Orb32f* d, int count, Get get, Store) {
 
 template <class Get, class Store>
 ORBS_INLINE void DeliverRandom(Orb16s* d, int count, Get get, Store store) {
-  constexpr int kPacked = 2 * I32::kLanes;
+  // Eight at a time in every variant: what is loaded is then no wider than what F64x4 stored.
+  constexpr int kPacked = I16x8::kLanes;
   static_assert(kRandomBlock % kPacked == 0);
   for (int i = 0; i < count; i += kPacked) {
     Orb32s wide[kPacked];
     ORBS_UNROLL for (int j = 0; j < kPacked; j += F64::kLanes) store(wide + j, get(i + j));
-    StorePacked(d + i, I32::Load(wide), I32::Load(wide + I32::kLanes));
+    Pack(I32x4::Load(wide), I32x4::Load(wide + I32x4::kLanes)).Store(d + i);
   }
 }
 

@@ -57,7 +57,8 @@ struct Points {
 
 template <class Result>
 void FillGauss(Result* dst, Orb32s len, Orb64f mean, Orb64f stdDev, Orb32u* seed) {
-  RandomBlocks blocks(*seed);
+  RandomPlace place(*seed);
+  RandomBlock block;
   Points points = {};
   const F64 center = F64::All(mean);
   const F64 deviation = F64::All(stdDev);
@@ -72,12 +73,12 @@ void FillGauss(Result* dst, Orb32s len, Orb64f mean, Orb64f stdDev, Orb32u* seed
     const Orb32s room = len - done;
     const Orb32s missing = room / 2 + room % 2;
     const int count = 2 * missing <= kRandomHalfBlock ? kRandomHalfBlock : kRandomBlock;
-    blocks.Next(count);
-    used = points.Collect(blocks.numbers, count, missing);
+    block.Fill(place, count);
+    used = points.Collect(block.numbers, count, missing);
     points.ComputeFactors();
     done += DeliverRandom(dst + done, room, 2 * points.count, value, truncate);
   }
-  *seed = blocks.words[used - 1];
+  *seed = block.word(used - 1);
 }
 
 #else
