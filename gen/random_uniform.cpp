@@ -41,7 +41,7 @@ void FillUniform(Result* dst, Orb32s len, Range range, Orb32u* seed) {
     const Orb32s room = len - done;
     last = room < kRandomBlock ? room : kRandomBlock;
     block.Fill(place, last);
-    DeliverRandom(dst + done, room, last, value, round);
+    DeliverRandom<kRandomBlock>(dst + done, room, last, value, round);
   }
   *seed = block.word(last - 1);
   if constexpr (std::is_integral_v<Result> && kTruncatesLastOdd) {
