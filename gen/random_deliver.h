@@ -25,24 +25,26 @@ ORBS_INLINE void DeliverRandom(Orb32f* d, int count, Get get, Store) {
 
 template <class Get, class Store>
 ORBS_INLINE void DeliverRandom(Orb16s* d, int count, Get get, Store store) {
-  constexpr int kPacked = 2 * I32::kLanes;
-  static_assert(kRandomBlock % kPacked == 0);
+  // Eight at a time in every variant: what is loaded is then no wider than what F64x4 stored.
+  constexpr int kPacked = I16x8::kLanes;
   for (int i = 0; i < count; i += kPacked) {
     Orb32s wide[kPacked];
     ORBS_UNROLL for (int j = 0; j < kPacked; j += F64::kLanes) store(wide + j, get(i + j));
-    StorePacked(d + i, I32::Load(wide), I32::Load(wide + I32::kLanes));
+    Pack(I32x4::Load(wide), I32x4::Load(wide + I32x4::kLanes)).Store(d + i);
   }
 }
 
 // The same into an array that has room for `room` elements; gives the number of elements that came to lie in
-// it. What is written beyond `count` is overwritten by the next delivery.
-template <class Result, class Get, class Store>
+// it. `count` is at most kMost, a multiple of 8. What is written beyond `count` is overwritten by the next
+// delivery.
+template <int kMost, class Result, class Get, class Store>
 ORBS_INLINE Orb32s DeliverRandom(Result* d, Orb32s room, int count, Get get, Store store) {
-  if (room >= kRandomBlock) {
+  static_assert(kMost % I16x8::kLanes == 0);
+  if (room >= kMost) {
     DeliverRandom(d, count, get, store);
     return count;
   }
-  Result results[kRandomBlock];
+  Result results[kMost];
   DeliverRandom(results, count, get, store);
   const Orb32s delivered = count < room ? count : room;
   std::memcpy(d, results, static_cast<size_t>(delivered) * sizeof(Result));

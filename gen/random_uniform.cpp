@@ -26,12 +26,13 @@ constexpr bool kTruncatesLastOdd = kVariant >= Variant::s8;
 
 template <class Result>
 void FillUniform(Result* dst, Orb32s len, Range range, Orb32u* seed) {
-  RandomBlocks blocks(*seed);
+  RandomPlace place(*seed);
+  RandomBlock block;
   const F64 scale = F64::All(range.scale);
   const F64 middle = F64::All(range.middle);
   const auto value = [&](int i) {
     F64 x;
-    LoadWiden(blocks.numbers + i, &x);
+    LoadWiden(block.numbers + i, &x);
     return MulAdd(x, scale, middle);
   };
   const auto round = [](Orb32s* d, F64 y) { StoreRounded(d, y); };
@@ -39,12 +40,12 @@ void FillUniform(Result* dst, Orb32s len, Range range, Orb32u* seed) {
   for (Orb32s done = 0; done < len; done += last) {
     const Orb32s room = len - done;
     last = room < kRandomBlock ? room : kRandomBlock;
-    blocks.Next(last);
-    DeliverRandom(dst + done, room, last, value, round);
+    block.Fill(place, last);
+    DeliverRandom<kRandomBlock>(dst + done, room, last, value, round);
   }
-  *seed = blocks.words[last - 1];
+  *seed = block.word(last - 1);
   if constexpr (std::is_integral_v<Result> && kTruncatesLastOdd) {
-    if (len % 2 != 0) dst[len - 1] = static_cast<Result>(range(blocks.numbers[last - 1]));
+    if (len % 2 != 0) dst[len - 1] = static_cast<Result>(range(block.numbers[last - 1]));
   }
 }
 

@@ -135,6 +135,20 @@ TEST_P(RandomTest, UniformSequence) {
                1.5e308);  // whose distance is no binary64
 }
 
+// Seeds that make W[n-2] - W[n-3] = -2^31 with a borrow, which turns its sign: n = 10 and n = 24.
+TEST_P(RandomTest, BorrowThatTurnsASign) {
+  for (const Orb32u start : {24376020u, 166021412u}) {
+    for (const int length : {8, 24, 25, 100}) {
+      const Expected expected = Uniform(start, length, -2147483648.0L, 2147483648.0L);
+      std::vector<Orb64f> out(static_cast<size_t>(length));
+      Orb32u seed = start;
+      legacy90orbsRandUniform_Direct_64f(out.data(), length, -2147483648.0, 2147483648.0, &seed);
+      EXPECT_EQ(seed, expected.seed) << length;
+      for (size_t i = 0; i < out.size(); ++i) EXPECT_NEAR(out[i], expected.values[i], 0.1) << i;
+    }
+  }
+}
+
 TEST_P(RandomTest, UniformSequenceOf16Bits) {
   const Variant variant = GetParam();
   const auto compare = [variant](Orb16s actual, long double y, int length, size_t i) {
