@@ -17,6 +17,7 @@
 
 #include <cstring>
 
+#include "fir/one_kernels.h"
 #include "frame/blocks.h"
 #include "iir/lanes.h"
 #include "iir/layout.h"
@@ -151,19 +152,21 @@ class ShortRecursion {
     size_t i = static_cast<size_t>(first) * kParts;
     LoadPast(y + i);
     i += RunRounds(u + i, y + i, (end - i) / kRound);
-    // Less than a round: each vector on a copy, with zeros behind the input.
-    while (i < end) {
-      const size_t n = end - i < kVector ? end - i : kVector;
-      Orb32f input[kPast + kVector] = {};
-      Orb32f results[kVector];
-      std::memcpy(input, u + i - kPast, kPast * sizeof *u);
-      CopyFew<kVector * sizeof *u>(input + kPast, u + i, n);
-      const F32 result = AddPast(silence_.Across(silence_.Within(Numerator(input + kPast))), rows_.near);
-      result.Store(results);
+    // Less than a round. What is read behind the input lies within the state, and is masked.
+    for (; i < end; i += kVector) {
+      F32 w = Numerator(u + i);
+      const size_t n = end - i;
+      if (n < kVector) w = FirstLanes(w, n);
+      const F32 result = AddPast(silence_.Across(silence_.Within(w)), rows_.near);
       older_ = newer_;
       newer_ = result;
-      CopyFew<kVector * sizeof *u>(y + i, results, n);
-      i += n;
+      if (n >= kVector) {
+        result.Store(y + i);
+      } else {
+        Orb32f results[kVector];
+        result.Store(results);
+        CopyFew<kVector * sizeof *y / 2>(y + i, results, n);
+      }
     }
   }
 
@@ -346,10 +349,11 @@ void LongRecursion(const Orb32f* rows, Orb32s order, Orb32f* y, Orb32s first, Or
   size_t i = static_cast<size_t>(first) * kParts;
   for (; i + kVector <= end; i += kVector) vector(y + i, y + i).Store(y + i);
   if (i == end) return;
+  // Fewer than a vector: on a copy with zeros behind.
   Orb32f few[kVector] = {};
-  std::memcpy(few, y + i, (end - i) * sizeof *y);
+  CopyFew<kVector * sizeof *y / 2>(few, y + i, end - i);
   vector(few, y + i).Store(few);
-  std::memcpy(y + i, few, (end - i) * sizeof *y);
+  CopyFew<kVector * sizeof *y / 2>(y + i, few, end - i);
 }
 
 }  // namespace orbs::ORBS_VARIANT
