@@ -147,7 +147,6 @@ class ShortRecursion {
   // Results first to count-1 from the input u; those before, at least N, are there.
   ORBS_INLINE void Run(const Orb32f* u, Orb32f* y, Orb32s first, Orb32s count) {
     constexpr size_t kVector = kVectorParts;
-    constexpr size_t kPast = kOrder * kParts;
     const size_t end = static_cast<size_t>(count) * kParts;
     size_t i = static_cast<size_t>(first) * kParts;
     LoadPast(y + i);
