@@ -57,6 +57,53 @@ ORBS_INLINE F32x8 LowQuarterMovedUp(F32x8 a) { return {_mm256_permute2f128_ps(a.
 #endif
 ORBS_INLINE void LoadQuarterToAll(const Orb32f* p, F32x4* out) { *out = F32x4::Load(p); }
 
+// Every element (a lane, or a pair for kParts = 2) in the place of the one above it, the last one at the
+// bottom.
+template <int kParts>
+ORBS_INLINE F32x4 MovedUpAround(F32x4 a) {
+  constexpr int kOrder = kParts == 1 ? _MM_SHUFFLE(2, 1, 0, 3) : _MM_SHUFFLE(1, 0, 3, 2);
+  return {_mm_shuffle_ps(a.v, a.v, kOrder)};
+}
+// The bottom element of `bottom` below the others of a.
+template <int kParts>
+ORBS_INLINE F32x4 WithBottom(F32x4 a, F32x4 bottom) {
+  if constexpr (kParts == 1) {
+    return {_mm_move_ss(a.v, bottom.v)};
+  } else {
+    return {_mm_castpd_ps(_mm_move_sd(_mm_castps_pd(a.v), _mm_castps_pd(bottom.v)))};
+  }
+}
+template <int kParts>
+ORBS_INLINE void StoreBottom(Orb32f* p, F32x4 a) {
+  if constexpr (kParts == 1) {
+    _mm_store_ss(p, a.v);
+  } else {
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_castps_si128(a.v));
+  }
+}
+#ifdef __AVX__
+template <int kParts>
+ORBS_INLINE F32x8 MovedUpAround(F32x8 a) {
+#ifdef __AVX2__
+  return {_mm256_permutevar8x32_ps(a.v, kParts == 1 ? _mm256_setr_epi32(7, 0, 1, 2, 3, 4, 5, 6)
+                                                    : _mm256_setr_epi32(6, 7, 0, 1, 2, 3, 4, 5))};
+#else
+  const F32x8 other = SwapHalves(a);
+  const F32x8 pairs = {_mm256_shuffle_ps(other.v, a.v, _MM_SHUFFLE(1, 0, 3, 2))};
+  if constexpr (kParts == 2) return pairs;
+  return {_mm256_shuffle_ps(pairs.v, a.v, _MM_SHUFFLE(2, 1, 2, 1))};
+#endif
+}
+template <int kParts>
+ORBS_INLINE F32x8 WithBottom(F32x8 a, F32x8 bottom) {
+  return {_mm256_blend_ps(a.v, bottom.v, kParts == 1 ? 1 : 3)};
+}
+template <int kParts>
+ORBS_INLINE void StoreBottom(Orb32f* p, F32x8 a) {
+  StoreBottom<kParts>(p, F32x4{_mm256_castps256_ps128(a.v)});
+}
+#endif
+
 // Lanes 0 and 1 from memory with zeros above, and back.
 ORBS_INLINE F32x4 LoadLowPair(const Orb32f* p) {
   return {_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};

@@ -36,14 +36,15 @@ IirLayout DescribeIir(Orb32s units) {
   at.taps.bytes = block.Add<Work>(Kind::StoredTaps(units), kPadding).bytes;
   at.delayLine.bytes = block.Add<Work>(Kind::DelayElements(units), kPadding).bytes;
 #if ORBS_VECTOR
-  if (Kind::kCascade) {
-    at.sectionTable = block.Add<Orb32f>(int64_t{units} * kSectionTableElements * Kind::kParts, kPadding);
-  }
+  // The blocks before the tables: kernels read whole vectors, up to one behind a block.
+  at.blockA.bytes = block.Add<Work>(kIirPiece, kPadding).bytes;
+  at.blockB.bytes = block.Add<Work>(kIirPiece, kPadding).bytes;
   const int64_t tableParts =
       Kind::kCascade ? int64_t{units} * 2 * RowParts(2) : int64_t{units} * RowParts(units);
   at.lookAheadTable = block.Add<Orb32f>(tableParts, kPadding);
-  at.blockA.bytes = block.Add<Work>(kIirPiece, kPadding).bytes;
-  at.blockB.bytes = block.Add<Work>(kIirPiece, kPadding).bytes;
+  if (Kind::kCascade) {
+    at.sectionTable = block.Add<Orb32f>(int64_t{units} * kSectionTableElements * Kind::kParts, kPadding);
+  }
 #endif
   return layout;
 }

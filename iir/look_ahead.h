@@ -17,6 +17,7 @@
 
 #include <cstring>
 
+#include "fir/one_kernels.h"
 #include "frame/blocks.h"
 #include "iir/lanes.h"
 #include "iir/layout.h"
@@ -110,16 +111,19 @@ class Silence {
 #endif
   }
 
-  ORBS_INLINE F32 operator()(F32 w) const {
+  // The first step, and the second.
+  ORBS_INLINE F32 Within(F32 w) const {
     auto sum = RowSum<kParts>::From(w);
     ForConstants<kElements - 1>([&](auto e) { sum.Add(QuarterFactorOf<kParts, e>(w), within_[e]); });
-#ifdef __AVX__
-    auto both = RowSum<kParts>::From(sum.Value());
-    const F32 low = both.a;
-    ForConstants<kReach>([&](auto k) { both.Add(FactorOf<kParts, kElements - 1 - k>(low), across_[k]); });
-    return both.Value();
-#else
     return sum.Value();
+  }
+  ORBS_INLINE F32 Across(F32 v) const {
+#ifdef __AVX__
+    auto sum = RowSum<kParts>::From(v);
+    ForConstants<kReach>([&](auto k) { sum.Add(FactorOf<kParts, kElements - 1 - k>(v), across_[k]); });
+    return sum.Value();
+#else
+    return v;
 #endif
   }
 
@@ -146,25 +150,31 @@ class ShortRecursion {
     const size_t end = static_cast<size_t>(count) * kParts;
     size_t i = static_cast<size_t>(first) * kParts;
     LoadPast(y + i);
-    if constexpr (kTwo) {
-      for (; i + 2 * kVector <= end; i += 2 * kVector) TwoVectors(u + i, y + i);
+    i += RunRounds(u + i, y + i, (end - i) / kRound);
+    // Less than a round. What is read behind the input lies within the state, and is masked.
+    for (; i < end; i += kVector) {
+      F32 w = Numerator(u + i);
+      const size_t n = end - i;
+      if (n < kVector) w = FirstLanes(w, n);
+      const F32 result = AddPast(silence_.Across(silence_.Within(w)), rows_.near);
+      older_ = newer_;
+      newer_ = result;
+      if (n >= kVector) {
+        result.Store(y + i);
+      } else {
+        Orb32f results[kVector];
+        result.Store(results);
+        CopyFew<kVector * sizeof *y / 2>(y + i, results, n);
+      }
     }
-    for (; i + kVector <= end; i += kVector) OneVector(u + i, y + i);
-    if (i == end) return;
-    // Fewer than a vector: on a copy with zeros behind.
-    Orb32f input[kOrder * kParts + kVector] = {};
-    Orb32f results[kVector];
-    std::memcpy(input, u + i - kOrder * kParts, kOrder * kParts * sizeof *u);
-    CopyFew<kVector * sizeof *u / 2>(input + kOrder * kParts, u + i, end - i);
-    OneVector(input + kOrder * kParts, results);
-    CopyFew<kVector * sizeof *u / 2>(y + i, results, end - i);
   }
 
  private:
   // Rows that reach from one vector into the next.
   static constexpr int kWithin = kOrder < kElements ? kOrder : kElements;
   static constexpr int kQuarter = kQuarterParts / kParts;
-  static constexpr bool kTwo = RowVectors(kOrder) == 2;
+  static constexpr int kVectors = RowVectors(kOrder);
+  static constexpr size_t kRound = kVectors * kVectorParts;
   static constexpr int kStride = RowParts(kOrder);
   // A sum of so many products is made in two halves.
   static constexpr bool kSplit = kOrder > 2;
@@ -184,7 +194,7 @@ class ShortRecursion {
     ORBS_INLINE explicit Rows(const Orb32f* table) {
       ForConstants<kOrder>([&](auto k) {
         plain[k] = near[k] = F32::Load(table + k * kStride);
-        far[k] = kTwo ? F32::Load(table + k * kStride + kVectorParts) : near[k];
+        far[k] = kVectors == 2 ? F32::Load(table + k * kStride + kVectorParts) : near[k];
       });
       if constexpr (kOrder == 2) plain[0] = near[0] - near[1];
     }
@@ -242,23 +252,57 @@ class ShortRecursion {
     return sum.Value();
   }
 
-  ORBS_INLINE void OneVector(const Orb32f* u, Orb32f* y) {
-    const F32 result = AddPast(silence_(Numerator(u)), rows_.near);
-    result.Store(y);
-    older_ = newer_;
-    newer_ = result;
+  // A round in three stages. Each is a chain of dependent sums; the loop runs the stages of three rounds side
+  // by side, since the processor does not look far enough ahead to find the next round by itself.
+  struct Round {
+    F32 v[kVectors];
+  };
+  ORBS_INLINE Round Begin(const Orb32f* u) const {
+    Round round;
+    ForConstants<kVectors>([&](auto r) { round.v[r] = silence_.Within(Numerator(u + r * kVectorParts)); });
+    return round;
+  }
+  ORBS_INLINE Round Complete(Round round) const {
+    ForConstants<kVectors>([&](auto r) { round.v[r] = silence_.Across(round.v[r]); });
+    if constexpr (kVectors == 2) {
+      auto second = RowSum<kParts>::From(round.v[1]);
+      ForConstants<kWithin>(
+          [&](auto k) { second.Add(FactorOf<kParts, kElements - 1 - k>(round.v[0]), rows_.plain[k]); });
+      round.v[1] = second.Value();
+    }
+    return round;
+  }
+  ORBS_INLINE void Finish(Round round, Orb32f* y) {
+    const F32 first = AddPast(round.v[0], rows_.near);
+    first.Store(y);
+    if constexpr (kVectors == 2) {
+      const F32 second = AddPast(round.v[1], rows_.far);
+      second.Store(y + kVectorParts);
+      older_ = first;
+      newer_ = second;
+    } else {
+      older_ = newer_;
+      newer_ = first;
+    }
   }
 
-  ORBS_INLINE void TwoVectors(const Orb32f* u, Orb32f* y) {
-    const F32 v0 = silence_(Numerator(u));
-    auto v1 = RowSum<kParts>::From(silence_(Numerator(u + kVectorParts)));
-    ForConstants<kWithin>([&](auto k) { v1.Add(FactorOf<kParts, kElements - 1 - k>(v0), rows_.plain[k]); });
-    const F32 y0 = AddPast(v0, rows_.near);
-    const F32 y1 = AddPast(v1.Value(), rows_.far);
-    y0.Store(y);
-    y1.Store(y + kVectorParts);
-    older_ = y0;
-    newer_ = y1;
+  // The parts that this has made.
+  ORBS_INLINE size_t RunRounds(const Orb32f* u, Orb32f* y, size_t rounds) {
+    const size_t parts = rounds * kRound;
+    if (rounds < 2) {
+      if (rounds == 1) Finish(Complete(Begin(u)), y);
+      return parts;
+    }
+    Round complete = Complete(Begin(u));
+    Round begun = Begin(u + kRound);
+    for (; rounds > 2; --rounds, u += kRound, y += kRound) {
+      Finish(complete, y);
+      complete = Complete(begun);
+      begun = Begin(u + 2 * kRound);
+    }
+    Finish(complete, y);
+    Finish(Complete(begun), y + kRound);
+    return parts;
   }
 
   Rows rows_;
@@ -281,8 +325,9 @@ void LongRecursion(const Orb32f* rows, Orb32s order, Orb32f* y, Orb32s first, Or
   ForConstants<kReach>([&](auto k) { reaching[k] = F32::Load(rows + k * kVectorParts); });
   const Silence<kParts, kReach> silence(reaching);
   const auto vector = [&](const Orb32f* w, const Orb32f* now) {
-    RowSum<kParts> sum[4] = {RowSum<kParts>::From(silence(F32::Load(w))), RowSum<kParts>::From(F32::Zero()),
-                             RowSum<kParts>::From(F32::Zero()), RowSum<kParts>::From(F32::Zero())};
+    RowSum<kParts> sum[4] = {RowSum<kParts>::From(silence.Across(silence.Within(F32::Load(w)))),
+                             RowSum<kParts>::From(F32::Zero()), RowSum<kParts>::From(F32::Zero()),
+                             RowSum<kParts>::From(F32::Zero())};
     const Orb32f* past = now - int64_t{order} * kParts;
     const Orb32f* row = rows + (int64_t{order} - 1) * kVectorParts;
     Orb32s k = order;
@@ -303,10 +348,11 @@ void LongRecursion(const Orb32f* rows, Orb32s order, Orb32f* y, Orb32s first, Or
   size_t i = static_cast<size_t>(first) * kParts;
   for (; i + kVector <= end; i += kVector) vector(y + i, y + i).Store(y + i);
   if (i == end) return;
+  // Fewer than a vector: on a copy with zeros behind.
   Orb32f few[kVector] = {};
-  std::memcpy(few, y + i, (end - i) * sizeof *y);
+  CopyFew<kVector * sizeof *y / 2>(few, y + i, end - i);
   vector(few, y + i).Store(few);
-  std::memcpy(y + i, few, (end - i) * sizeof *y);
+  CopyFew<kVector * sizeof *y / 2>(y + i, few, end - i);
 }
 
 }  // namespace orbs::ORBS_VARIANT

@@ -7,6 +7,7 @@
 #include "fir/block_kernels.h"
 #include "frame/blocks.h"
 #include "frame/toolkit.h"
+#include "iir/lane_cascade.h"
 #include "iir/look_ahead.h"
 #include "iir/step.h"
 
@@ -102,20 +103,40 @@ void FilterSection(const Work* t, const Orb32f* rows, Work* d, const Work* u, Wo
   (b2 * u1 - a2 * y1).To(d + 1);
 }
 
-// The sections hand the piece from block to block.
+// Up to kVectors vectors of sections at once, in place. Tells how many they were.
+template <int kVectors, class Work>
+Orb32s FilterInLanes(const Work* t, Work* d, Orb32s sectionCount, Work* u, Orb32s count) {
+  using Lanes = LaneCascade<Work, kVectors>;
+  const Orb32s n = sectionCount < Lanes::kSections ? sectionCount : Lanes::kSections;
+  Lanes lanes(t, d, n);
+  lanes.Run(u, count);
+  lanes.StoreDelay(d, n);
+  return n;
+}
+
+// Sections that fill vectors go through in lanes, the others by look-ahead, from block to block.
 template <class Kind>
 const typename Kind::Work* FilterCascadePiece(IirView<Kind> view, Orb32s count) {
+  using Work = typename Kind::Work;
   auto* u = view.BlockA();
   auto* y = view.BlockB();
   const auto* t = view.Taps();
   auto* d = view.Delay();
   const Orb32f* rows = view.LookAheadTable();
-  for (Orb32s s = 0; s < view.state->sectionCount; ++s) {
-    FilterSection(t, rows, d, u, y, count);
-    std::swap(u, y);
-    t += 5;
-    d += 2;
-    rows += 2 * RowParts(2);
+  for (Orb32s left = view.state->sectionCount; left > 0;) {
+    Orb32s n = 1;
+    if (left > LaneCascade<Work, 1>::kSections && count >= LaneCascade<Work, 2>::kFill) {
+      n = FilterInLanes<2>(t, d, left, u, count);
+    } else if (left >= LaneCascade<Work, 1>::kSections / 2 && count >= LaneCascade<Work, 1>::kFill) {
+      n = FilterInLanes<1>(t, d, left, u, count);
+    } else {
+      FilterSection(t, rows, d, u, y, count);
+      std::swap(u, y);
+    }
+    left -= n;
+    t += 5 * n;
+    d += 2 * n;
+    rows += 2 * RowParts(2) * n;
   }
   return u;
 }
