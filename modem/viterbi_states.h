@@ -3,13 +3,14 @@
 #define ORBS_MODEM_VITERBI_STATES_H
 
 #include <cstring>
+#include <type_traits>
 
 #include "frame/variant.h"
 #include "orbs90lgc/types.h"
 
 #if ORBS_VECTOR
 #include "frame/blocks.h"
-#include "modem/viterbi_linear.h"
+#include "frame/simd.h"
 #endif
 
 namespace orbs::ORBS_VARIANT {
@@ -48,18 +49,71 @@ void SelectPaths(const TrellisStep& step) {
 
 #if ORBS_VECTOR
 
-// The code's own number of states and a linear code: all branches of a state at once.
+// The same without a branch that depends on data. A path has a key, its metric with the number of its branch
+// below that, counted from 1: the least key of a state is its survivor, and of equal paths the first. A
+// state's own metric, with 0 below, is less than the key of a path that does not improve it. Keys take 17
+// bits of metric and 11 of number.
 template <int kBranches>
-ORBS_INLINE void SelectPathsFast(const TrellisStep& step) {
-  constexpr Orb32s kStates = 4 * kBranches;
-  if (step.stateCount == kStates) {
-    LinearTrellis<kBranches> trellis;
-    if (trellis.Recognise(step.nextStates, step.symbols)) {
-      trellis.SelectPaths(step.oldMetrics, step.newMetrics, step.symbols, step.survivors);
-      return;
+class PathKeys {
+ public:
+  static constexpr Orb32s kStates = 4 * kBranches;
+
+  // False if a symbol metric is negative: then an earlier path can stay below 0 and be stored as a large
+  // number, and which path survives depends on the order. The form for 16 states has no sign.
+  ORBS_INLINE bool SetWeights(const Orb16sc* symbols) {
+    Orb32s signs = 0;
+    ORBS_UNROLL
+    for (int e = 0; e < 2 * kBranches; ++e) {
+      signs |= symbols[e].im;
+      weights_[e & 1][e >> 1] = static_cast<Orb16u>(symbols[e].im) << kNumberBits | e >> 1;
+    }
+    return kBranches == 4 || signs >= 0;
+  }
+
+  void SelectPaths(const TrellisStep& step) {
+    Orb32s paths[kStates * kBranches];
+    for (Orb32s s = 0; s < kStates; ++s) {
+      const Orb32s first = (step.oldMetrics[s] << kNumberBits) + s * kBranches + 1;
+      ORBS_UNROLL
+      for (int b = 0; b < kBranches; b += V::kLanes) {
+        (V::All(first) + V::Load(weights_[s & 1] + b)).Store(paths + s * kBranches + b);
+      }
+    }
+    Orb32s keys[256] = {};  // for any number of a next state; what is none of a state is dropped
+    for (Orb32s t = 0; t < kStates; ++t) keys[t] = step.newMetrics[t] << kNumberBits;
+    for (Orb32s i = 0; i < kStates * kBranches; i += kBranches) {
+      ORBS_UNROLL
+      for (int b = 0; b < kBranches; ++b) {
+        Orb32s& key = keys[step.nextStates[i + b]];
+        const Orb32s path = paths[i + b];
+        key = path < key ? path : key;
+      }
+    }
+    for (Orb32s t = 0; t < kStates; ++t) {
+      const Orb32s number = keys[t] & ((1 << kNumberBits) - 1);
+      if (number == 0) continue;
+      const Orb32s s = (number - 1) / kBranches;
+      const Orb16sc symbol = step.symbols[(s & 1) + 2 * ((number - 1) % kBranches)];
+      step.newMetrics[t] = static_cast<Orb16u>(keys[t] >> kNumberBits);
+      step.survivors[t] = static_cast<Orb16u>(symbol.re) | static_cast<Orb32u>(s) << 16;
     }
   }
-  SelectPaths<kBranches>(step);
+
+ private:
+  static constexpr int kNumberBits = 11;
+  using V = std::conditional_t<(kBranches >= N32::kLanes), N32, I32x4>;
+
+  Orb32s weights_[2][kBranches];  // of even and of odd states
+};
+
+template <int kBranches>
+ORBS_INLINE void SelectPathsFast(const TrellisStep& step) {
+  PathKeys<kBranches> keys;
+  if (step.stateCount == keys.kStates && keys.SetWeights(step.symbols)) {
+    keys.SelectPaths(step);
+  } else {
+    SelectPaths<kBranches>(step);
+  }
 }
 
 #endif

@@ -1,5 +1,7 @@
 // Receivers' primitives, called through the shared library.
 #include <cmath>
+#include <cstring>
+#include <string>
 
 #include "bench/compare.h"
 #include "bench/modem/peers.h"
@@ -59,6 +61,39 @@ void CompareFM() {
   });
 }
 
+// An element is a branch of the trellis. The steps are many and different, so that a branch predictor cannot
+// learn them; new metrics are put back to 65535 before each, on both sides.
+template <int kBranches>
+void CompareSelect() {
+  constexpr Orb32s kStates = 4 * kBranches;
+  constexpr Orb32s kSteps = 65536 / (kStates * kBranches);
+  CompareAtSizes(
+      "CalcStatesDV_16sc " + std::to_string(kStates) + " states", {0, 0, 1}, {kSteps * kStates * kBranches},
+      [](Comparison& c, Orb32s) {
+        Orb8u* next = c.Array<Orb8u>(kStates * kBranches, [](Orb32s i) {
+          const Orb32s s = i / kBranches;
+          return s >> 1 ^ ((s & 1) != 0 ? kStates / 2 + 1 : 0) ^ 2 * (i % kBranches) % kStates;
+        });
+        const auto metric = [](Orb32s i) { return 4000 + 4000 * Random(i); };
+        const Orb16u* old = c.Array<Orb16u>(kSteps * kStates, metric);
+        const Orb16sc* symbols = c.Array<Orb16sc>(kSteps * 2 * kBranches, [=](Orb32s i) {
+          return Orb16sc{static_cast<Orb16s>(i), static_cast<Orb16s>(metric(i + 99991))};
+        });
+        Orb16u* metrics = c.Array<Orb16u>(kStates);
+        Orb32u* survivors = c.Array<Orb32u>(kStates);
+        const auto each = [=](auto select) {
+          return [=] {
+            for (Orb32s step = 0; step < kSteps; ++step) {
+              std::memset(metrics, 0xFF, kStates * sizeof *metrics);
+              select(old + step * kStates, next, metrics, symbols + step * 2 * kBranches, survivors);
+            }
+          };
+        };
+        c.Ours(each([](auto... tables) { legacy90orbsCalcStatesDV_16sc(tables..., kStates, 0); }));
+        c.Peer("loop", each([](auto... tables) { native::SelectPathsLoop<kBranches>(tables...); }));
+      });
+}
+
 OrbStatus ScaledTwo(const Orb16sc* src, Orb32s len, Orb16sc* result, const Orb32f* f) {
   return legacy90orbsGoertzTwo_16sc_Sfs(src, len, result, f, 8);
 }
@@ -70,6 +105,9 @@ void Declare() {
   CompareGoertzel("GoertzTwo_64f", legacy90orbsGoertzTwo_64f);
   CompareGoertzel("GoertzTwo_64fc", legacy90orbsGoertzTwo_64fc);
   CompareFM();
+  CompareSelect<4>();
+  CompareSelect<8>();
+  CompareSelect<16>();
 }
 
 const Family family(kEveryVariant, Declare);

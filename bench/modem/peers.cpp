@@ -84,4 +84,23 @@ Call ArctangentLoop(const Orb16s* re, const Orb16s* im, Orb16s* dst, Orb32s n) {
   };
 }
 
+template <int kBranches>
+void SelectPathsLoop(const Orb16u* oldMetrics, const Orb8u* nextStates, Orb16u* newMetrics,
+                     const Orb16sc* symbols, Orb32u* survivors) {
+  for (int s = 0; s < 4 * kBranches; ++s) {
+    for (int b = 0; b < kBranches; ++b) {
+      const int t = nextStates[s * kBranches + b];
+      const Orb16sc symbol = symbols[(s & 1) + 2 * b];
+      const Orb32s metric = oldMetrics[s] + symbol.im;
+      if (metric < newMetrics[t]) {
+        newMetrics[t] = static_cast<Orb16u>(metric);
+        survivors[t] = static_cast<Orb16u>(symbol.re) | static_cast<Orb32u>(s) << 16;
+      }
+    }
+  }
+}
+template void SelectPathsLoop<4>(const Orb16u*, const Orb8u*, Orb16u*, const Orb16sc*, Orb32u*);
+template void SelectPathsLoop<8>(const Orb16u*, const Orb8u*, Orb16u*, const Orb16sc*, Orb32u*);
+template void SelectPathsLoop<16>(const Orb16u*, const Orb8u*, Orb16u*, const Orb16sc*, Orb32u*);
+
 }  // namespace orbs::bench::native

@@ -22,6 +22,11 @@ Call LiquidDemodulateFM(const Orb32fc* src, Orb32f* dst, Orb32s n);
 // The product and the arctangent of the C library, sample by sample.
 Call ArctangentLoop(const Orb16s* re, const Orb16s* im, Orb16s* dst, Orb32s n);
 
+// The definition of legacy90orbsCalcStatesDV_16sc in two loops, kBranches known to the compiler.
+template <int kBranches>
+void SelectPathsLoop(const Orb16u* oldMetrics, const Orb8u* nextStates, Orb16u* newMetrics,
+                     const Orb16sc* symbols, Orb32u* survivors);
+
 }  // namespace orbs::bench::native
 
 #endif

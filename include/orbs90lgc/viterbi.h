@@ -109,9 +109,6 @@ OrbStatus legacy90orbsBuildSymblTableDV4D_16sc(const Orb32u* variants, Orb16sc* 
  * legacy90orbsBuildSymblTableDV4D_16sc() makes of distances of legacy90orbsGetVarPointDV_16sc() stays below
  * 32768 there.
  *
- * It is fastest for linear codes, in which a next state is the XOR of a number that depends on the state, and
- * the numbers of the bits in b.
- *
  * @param oldMetrics   metrics of the paths so far, one for each state
  * @param nextStates   the numbers of the next states, state after state, B each
  * @param newMetrics   metrics of the paths that survive; 65535 where there is none yet
