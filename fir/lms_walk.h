@@ -3,8 +3,8 @@
 // The n elements are split into whole vectors from the front, and one last vector that ends with the array.
 // The last one overlaps the one before where n is no multiple of a vector. It is loaded before anything is
 // stored and stays in registers from the sums to the update: the lanes seen twice are left out of the sums,
-// and updated twice they become the same numbers. Below a vector, kernels take one of 128
-// bits, and below that the last one alone, with zeros in front, put together lane by lane.
+// and updated twice they become the same numbers. Below a vector kernels take one of 128 bits, and
+// below that the last one alone, with zeros in front, put together lane by lane.
 //
 // The newest sample, its last lane, comes from the argument and not from the ring: a load of a vector must
 // wait until a single element stored just before has reached the cache, and with it would wait the output.
@@ -74,7 +74,7 @@ ORBS_INLINE V LastLanesMask(size_t count) {
 template <class V>
 class LmsSplit {
  public:
-  // n is at least 1.
+  // n is at least 1, and fills V if V has more than 128 bits.
   ORBS_INLINE explicit LmsSplit(size_t n)
       : n_(n), whole_((n - 1) / kLanes * kLanes), unseen_(LastLanesMask<V>(n - whole_)) {}
 
@@ -138,7 +138,6 @@ class LmsSplit {
  private:
   static constexpr size_t kLanes = V::kLanes;
 
-  // Vectors above 128 bits come only where n fills one.
   ORBS_INLINE bool IsFew() const { return sizeof(V) == 16 && n_ < kLanes; }
 
   size_t n_;

@@ -82,12 +82,12 @@ OrbStatus legacy90orbsFIRLMSOne_Direct32f_16s(Orb16s src, Orb16s reference, Orb1
  * taps stay as they are. Taps saturate to 32 bits.
  *
  * `px` computes in 64-bit integers: of each product taps[k] x[k] the low 32 bits count, the step is made from
- * the rounded, unsaturated y, and the quotient is truncated toward zero. Intermediate results wrap; that takes
- * |mu (reference - y)| of 2^48 and more.
+ * the rounded, unsaturated y, and the quotient is truncated toward zero. Intermediate results wrap; that
+ * takes |mu (reference - y)| of 2^48 and more.
  *
  * The other variants compute in binary64: products in full, the step from the exact y, as
- * taps[k] + (mu (reference - y) (1/E)) x[k] rounded to the nearest with ties to even. As long as the sums stay
- * within 2^53, they are equal to one another bit for bit.
+ * taps[k] + (mu (reference - y) (1/E)) x[k] rounded to the nearest with ties to even. They agree with one
+ * another bit for bit as long as the sums stay within 2^53.
  */
 OrbStatus legacy90orbsFIRLMSOne_DirectQ15_16s(Orb16s src, Orb16s reference, Orb16s* output, Orb32s* taps,
                                               Orb32s tapCount, Orb32s mu, Orb16s* delayLine,
