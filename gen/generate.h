@@ -14,17 +14,16 @@ namespace orbs::ORBS_VARIANT {
 // so an operation may be asked for indices that the array does not have.
 template <int kBlock, class Result, class Operation>
 ORBS_INLINE void GenerateBlocks(Result* dst, Orb32s len, Operation operation) {
-  if (len >= kBlock) {
-    const Orb32s lastBlock = len - kBlock;
-    Orb32s first = 0;
-    // A sum beyond lastBlock is at most len, which fits.
-    for (; first <= lastBlock; first += kBlock) operation(dst + first, first);
-    if (first < len) operation(dst + lastBlock, lastBlock);
-  } else {
-    Result results[kBlock];
-    operation(results, 0);
-    CopyFew<kBlock * sizeof(Result) / 2>(dst, results, static_cast<size_t>(len));
+  Result results[kBlock];
+  const bool isShort = len < kBlock;
+  Result* const to = isShort ? results : dst;
+  const Orb32s lastBlock = isShort ? 0 : len - kBlock;
+  // One call, so that the operation becomes part of the loop.
+  for (Orb32s first = 0;; first = first < lastBlock - kBlock ? first + kBlock : lastBlock) {
+    operation(to + first, first);
+    if (first == lastBlock) break;
   }
+  if (isShort) CopyFew<kBlock * sizeof(Result) / 2>(dst, results, static_cast<size_t>(len));
 }
 
 // 0, 1, 2 ...

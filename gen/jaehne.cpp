@@ -102,21 +102,30 @@ void FillChirp(Orb32u* dst, Orb32s len, Orb32u magn) {
 
 #else
 
+// x in binary64: the x87 keeps more bits until a value is stored, and far out in a long chirp they would
+// show.
+Orb64f Stored(Orb64f x) {
+  const volatile Orb64f stored = x;
+  return stored;
+}
+
+Orb64f PhaseFactor(Orb32s len) { return Stored(kHalfPi / len); }
+
 // One element of the wave, rounded to the nearest integer.
 Orb32s ChirpElement(Orb64f c, Orb32s n, Orb64f amplitude) {
-  const Orb64f square = static_cast<Orb64f>(n) * n;
-  const Wide<Orb64f> y = Wide<Orb64f>(amplitude) * sin(c * square);
+  const Orb64f square = Stored(static_cast<Orb64f>(n) * n);
+  const Wide<Orb64f> y = Wide<Orb64f>(amplitude) * sin(Stored(c * square));
   const Wide<Orb64f> r = y < 0 ? y - Wide<Orb64f>(0.5) : y + Wide<Orb64f>(0.5);
   return static_cast<Orb32s>(r < kMost ? r : kMost);
 }
 
 void FillChirp(Orb8s* dst, Orb32s len, Orb8s magn) {
-  const Orb64f c = kHalfPi / len;
+  const Orb64f c = PhaseFactor(len);
   for (Orb32s n = 0; n < len; ++n) dst[n] = static_cast<Orb8s>(ChirpElement(c, n, magn));
 }
 
 void FillChirp(Orb32u* dst, Orb32s len, Orb32u magn) {
-  const Orb64f c = kHalfPi / len;
+  const Orb64f c = PhaseFactor(len);
   Orb32s smallest = 0;
   for (Orb32s n = 0; n < len; ++n) {
     const Orb32s y = ChirpElement(c, n, magn / 2.0);

@@ -31,7 +31,7 @@ class BorrowSequence {
 
   // The next `count` words, rounded up to a multiple of three, on the assumption that no borrow turns the
   // sign of the next difference: the borrow then follows from the difference of two words alone. That cuts
-  // the chain from borrow to borrow, and what remains from word to word is three instructions in two steps.
+  // the chain from borrow to borrow, and what remains from word to word is four instructions in two steps.
   ORBS_INLINE void NextIndependent(Orb32u* words, int count) {
     Orb32u oldest = oldest_;
     Orb32u middle = middle_;

@@ -1,5 +1,6 @@
 // Ramps, slopes and chirps, called through the shared library, beside what the memory allows: a fill of the
 // same bytes with one value.
+#include <cmath>
 #include <cstring>
 
 #include "bench/compare.h"
@@ -33,6 +34,17 @@ void Declare() {
     Orb8s* dst = c.Array<Orb8s>(n);
     c.Ours([=] { legacy90orbsVectorSlope_8s(dst, n, static_cast<Orb32f>(-n / 2), 1); });
     c.Peer("memset", [=] { std::memset(dst, 0x55, static_cast<size_t>(n)); });
+  });
+  // The formula with the C library's sine.
+  CompareAtSizes("VectorJaehne_8s", {0, 1}, {1024, 65536}, [](Comparison& c, Orb32s n) {
+    Orb8s* dst = c.Array<Orb8s>(n);
+    c.Ours([=] { legacy90orbsVectorJaehne_8s(dst, n, 127); });
+    c.Peer("sin", [=] {
+      const double factor = 1.5707963267948966 / n;
+      for (Orb32s i = 0; i < n; ++i) {
+        dst[i] = static_cast<Orb8s>(std::lrint(127 * std::sin(factor * (static_cast<double>(i) * i))));
+      }
+    });
   });
 }
 

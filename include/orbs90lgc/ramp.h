@@ -22,8 +22,8 @@ extern "C" {
 /**
  * @name Ramps
  *
- * The straight line y[n] = `offset` + n `slope` for n = 0 ... `len` - 1. Each element is computed from its own
- * n, so that no error accumulates.
+ * The straight line y[n] = `offset` + n `slope` for n = 0 ... `len` - 1. Each element is computed from its
+ * own n, so that no error accumulates.
  *
  * Integer types get y rounded to the nearest integer, ties away from zero, and limited to the range of the
  * type. The floating-point types get y itself. NaN, which only an infinite or NaN argument can bring about,
@@ -57,20 +57,20 @@ OrbStatus legacy90orbsVectorRamp_64f(Orb64f* dst, Orb32s len, Orb32f offset, Orb
 OrbStatus legacy90orbsVectorSlope_8s(Orb8s* dst, Orb32s len, Orb32f offset, Orb32f slope);
 
 /**
- * Jaehne chirp y[n] = `magn` sin(pi n^2 / (2 `len`)): its frequency grows linearly from 0 to half the sampling
- * rate. Rounded to the nearest integer, ties away from zero. `len` = 1 gives 0.
+ * Jaehne chirp y[n] = `magn` sin(pi n^2 / (2 `len`)): its frequency grows linearly from 0 to half the
+ * sampling rate. Rounded to the nearest integer, ties away from zero. `len` = 1 gives 0.
  *
  * @param magn peak value, 0 to 127
  */
 OrbStatus legacy90orbsVectorJaehne_8s(Orb8s* dst, Orb32s len, Orb8s magn);
 
 /**
- * Jaehne chirp for unsigned results: y[n] = (`magn` / 2) sin(pi n^2 / (2 `len`)), rounded to the nearest signed
- * 32-bit integer, ties away from zero; then m, the smallest of these integers and 0, is added to each,
+ * Jaehne chirp for unsigned results: y[n] = (`magn` / 2) sin(pi n^2 / (2 `len`)), rounded to the nearest
+ * signed 32-bit integer, ties away from zero; then m, the smallest of these integers and 0, is added to each,
  * modulo 2^32. `len` = 1 gives 0.
  *
- * The wave swings around m: elements below -m wrap to the upper end of the range. To have it around its
- * middle, add `magn` modulo 2^32.
+ * The results thus run from about -`magn` to 0, the negative ones seen modulo 2^32 at the upper end of the
+ * range. Adding `magn` modulo 2^32 moves them to 0 ... `magn`.
  *
  * @param magn distance between the peaks, any value
  */

@@ -39,8 +39,9 @@ extern "C" {
 /**
  * @name Uniform
  *
- * o (`high` - `low`) 2^-32 + (`low` + `high`) / 2: evenly spread from `low` to `high`, one number o an element. `low`
- * may be above `high`. Evaluated in binary64 at least; 2^-32 is the constant 2.3283064365387e-10.
+ * o (`high` - `low`) 2^-32 + (`low` + `high`) / 2: evenly spread from `low` to `high`, one number o an
+ * element. `low` may be above `high`. Evaluated in binary64 at least; 2^-32 is the
+ * constant 2.3283064365387e-10.
  *
  * The 16-bit form truncates toward zero in `px` and rounds to nearest in the other variants; a last element
  * without a neighbour, where `len` is odd, is truncated in `s8`, `p8`, `g9` and `h9` as well.
@@ -56,9 +57,9 @@ OrbStatus legacy90orbsRandUniform_Direct_64f(Orb64f* dst, Orb32s len, Orb64f low
  *
  * Normally distributed with the given mean and standard deviation, by the polar method of Marsaglia: two
  * numbers in a row are u1 and u2, scaled to -1 ... 1 by 4.656612873077e-10 for 2^-31; pairs with
- * r = u1^2 + u2^2 at or above 1, or exactly 0, are dropped. With w = sqrt(-2 ln(r) / r) a pair gives the elements
- * `mean` + `stdDev` u2 w and `mean` + `stdDev` u1 w, in this order. An odd `len` uses the first of its last pair.
- * Evaluated in binary64 at least.
+ * r = u1^2 + u2^2 at or above 1, or exactly 0, are dropped. With w = sqrt(-2 ln(r) / r) a pair gives the
+ * elements `mean` + `stdDev` u2 w and `mean` + `stdDev` u1 w, in this order. An odd `len` uses the first of
+ * its last pair. Evaluated in binary64 at least.
  *
  * The 16-bit form truncates toward zero and limits to -32768 and 32767. No value of `mean` and `stdDev` is
  * refused; a negative `stdDev` mirrors.

@@ -16,8 +16,8 @@
  *  - ::StatusKaiserAlpha (Kaiser only): |alpha| (`len` - 1) / 2 is above 308;
  *  - ::StatusOk.
  *
- * Variant `px` makes the Blackman window in fixed point by a rotation of 30 bits, the others in binary32; `px`
- * makes the Kaiser window in binary64, the others in binary32. The results can differ by a unit.
+ * Variant `px` makes the Blackman window in fixed point by a rotation of 30 bits, the others in binary32;
+ * `px` makes the Kaiser window in binary64, the others in binary32. The results can differ by a unit.
  */
 #ifndef ORBS90LGC_WINDOW_H
 #define ORBS90LGC_WINDOW_H
@@ -50,13 +50,14 @@ OrbStatus legacy90orbsWinBlackmanQ15_16sc_I(Orb16sc* srcDst, Orb32s len, Orb32s 
  * the middle. Any `scaleFactor` is accepted. Variant `px` makes the window in binary64 and rounds to nearest,
  * ties away from zero; the other variants round ties to even, except in the middle.
  */
-OrbStatus legacy90orbsWinBlackmanQ15_16s_ISfs(Orb16s* srcDst, Orb32s len, Orb32s alphaQ15, Orb32s scaleFactor);
+OrbStatus legacy90orbsWinBlackmanQ15_16s_ISfs(Orb16s* srcDst, Orb32s len, Orb32s alphaQ15,
+                                              Orb32s scaleFactor);
 
 /**
  * @name Kaiser windows
  *
- * w(n) = I0(alpha sqrt(n (N-1-n))) / I0(alpha (N-1) / 2), N = `len`, I0 the modified Bessel function of order 0:
- * the window of Kaiser with beta = alpha (N-1) / 2. I0 is evaluated by the polynomials 9.8.1 and 9.8.2 of
+ * w(n) = I0(alpha sqrt(n (N-1-n))) / I0(alpha (N-1) / 2), N = `len`, I0 the modified Bessel function of order
+ * 0: the window of Kaiser with beta = alpha (N-1) / 2. I0 is evaluated by the polynomials 9.8.1 and 9.8.2 of
  * Abramowitz and Stegun, Handbook of Mathematical Functions (1964), whose relative error is below 2e-7.
  *
  * The sign of alpha makes no difference. `alphaQ15` = 0 changes nothing, nor does `len` = 1. Variant `px`
