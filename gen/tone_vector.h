@@ -144,7 +144,8 @@ ORBS_INLINE void GenerateSegments(Part* dst, int count, int segments, int segmen
     Segment together[kTogether];
     ORBS_UNROLL
     for (int j = 0; j < kTogether; ++j) together[j].Begin(start, cosines[i + j], sines[i + j]);
-    const auto store = [&](int done) {
+    // Always inline: the call of a function would keep the segments in memory.
+    const auto store = [&](int done) __attribute__((always_inline)) {
       ORBS_UNROLL
       for (int j = 0; j < kTogether; ++j) {
         StoreUnit<kWhole, kParts, kRounding>(dst, (i + j) * segmentLen + done, count, together[j].past, magn);
