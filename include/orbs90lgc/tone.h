@@ -33,7 +33,7 @@ extern "C" {
  * sample toward zero.
  *
  * `hint` ::HintFast lets the variants other than `px` run the recurrence of the 32f, 32fc, 16s and 16sc forms
- * in binary32: a sample is then within 5e-5 `magn` of the exact one, however long the block. With any other
+ * in binary32: a sample is then within 2e-5 `magn` of the exact one, however long the block. With any other
  * hint the error is below 1e-12 `magn` before the sample is rounded to its type. In `px`, which does not read
  * the hint, the error of the recurrence grows with `len`, from 1e-18 `magn`.
  *
