@@ -103,21 +103,11 @@ void FilterSection(const Work* t, const Orb32f* rows, Work* d, const Work* u, Wo
   (b2 * u1 - a2 * y1).To(d + 1);
 }
 
-// Up to kVectors vectors of sections at once, in place. Tells how many they were.
-template <int kVectors, class Work>
-Orb32s FilterInLanes(const Work* t, Work* d, Orb32s sectionCount, Work* u, Orb32s count) {
-  using Lanes = LaneCascade<Work, kVectors>;
-  const Orb32s n = sectionCount < Lanes::kSections ? sectionCount : Lanes::kSections;
-  Lanes lanes(t, d, n);
-  lanes.Run(u, count);
-  lanes.StoreDelay(d, n);
-  return n;
-}
-
-// Sections that fill vectors go through in lanes, the others by look-ahead, from block to block.
+// Sections that fill more than half of a vector go through in lanes, in place; the others, and all where
+// there are fewer samples than it takes to reach the last lane, by look-ahead from block to block.
 template <class Kind>
 const typename Kind::Work* FilterCascadePiece(IirView<Kind> view, Orb32s count) {
-  using Work = typename Kind::Work;
+  using Lanes = LaneCascade<typename Kind::Work>;
   auto* u = view.BlockA();
   auto* y = view.BlockB();
   const auto* t = view.Taps();
@@ -125,10 +115,11 @@ const typename Kind::Work* FilterCascadePiece(IirView<Kind> view, Orb32s count) 
   const Orb32f* rows = view.LookAheadTable();
   for (Orb32s left = view.state->sectionCount; left > 0;) {
     Orb32s n = 1;
-    if (left > LaneCascade<Work, 1>::kSections && count >= LaneCascade<Work, 2>::kFill) {
-      n = FilterInLanes<2>(t, d, left, u, count);
-    } else if (left >= LaneCascade<Work, 1>::kSections / 2 && count >= LaneCascade<Work, 1>::kFill) {
-      n = FilterInLanes<1>(t, d, left, u, count);
+    if (left > Lanes::kSections / 2 && count >= Lanes::kFill) {
+      n = left < Lanes::kSections ? left : Lanes::kSections;
+      Lanes lanes(t, d, n);
+      lanes.Run(u, count);
+      lanes.StoreDelay(d, n);
     } else {
       FilterSection(t, rows, d, u, y, count);
       std::swap(u, y);
