@@ -16,6 +16,8 @@
 #ifndef ORBS_FRAME_SIMD_H
 #define ORBS_FRAME_SIMD_H
 
+#include <type_traits>
+
 #include "frame/variant.h"
 
 #if ORBS_VECTOR
@@ -70,6 +72,14 @@ ORBS_INLINE V LoadOnce(const typename V::Lane* p) {
   V x = V::Load(p);
   asm("" : "+x"(x.v));
   return x;
+}
+
+// The first `count` lanes of a vector, 0 < count < kLanes, and zeros.
+template <class V>
+ORBS_INLINE V FirstLanes(V a, size_t count) {
+  using Bits = std::conditional_t<sizeof(typename V::Lane) == 4, Orb32s, Orb64s>;
+  static constexpr Bits kMask[16] = {-1, -1, -1, -1, -1, -1, -1, -1};
+  return a & V::Load(reinterpret_cast<const typename V::Lane*>(kMask + 8 - count));
 }
 
 // Complex product of interleaved pairs: (a.re b.re - a.im b.im, a.re b.im + a.im b.re).
