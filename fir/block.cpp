@@ -2,12 +2,12 @@
 // transform. Which of the two is chosen at each call; the delay line crosses calls on both.
 #include <cstring>
 
-#include "fir/block_kernels.h"
 #include "fir/deliver.h"
 #include "fir/float_state.h"
 #include "fir/run.h"
 #include "frame/checks.h"
 #include "frame/exports.h"
+#include "frame/sliding_products.h"
 
 namespace orbs::ORBS_VARIANT {
 namespace {
@@ -29,10 +29,10 @@ struct FloatEngine : FirView<Kind> {
   void Outputs(const Sample* x, Data* dst, Orb32s count) const {
     if constexpr (Kind::kWidens) {
       Sample* const sums = this->Block() + kBlock;
-      FirSums(x, this->Taps(), TapCount(), sums, static_cast<size_t>(count));
+      SlidingProducts(x, this->Taps(), TapCount(), sums, static_cast<size_t>(count));
       Deliver(Parts(sums), Parts(dst), count * Kind::kParts, scaleFactor);
     } else {
-      FirSums(x, this->Taps(), TapCount(), dst, static_cast<size_t>(count));
+      SlidingProducts(x, this->Taps(), TapCount(), dst, static_cast<size_t>(count));
     }
   }
 };

@@ -31,7 +31,7 @@ struct FloatDirect {
 
   void Outputs(const Data* x, Data* dst, int64_t count) const {
     if constexpr (kReadsSource) {
-      FirSums<-1>(x, taps + (tapCount - 1), tapCount, dst, static_cast<size_t>(count));
+      SlidingProducts<-1>(x, taps + (tapCount - 1), tapCount, dst, static_cast<size_t>(count));
     } else {
       OutputsWidened(x, dst, static_cast<Orb32s>(count));
     }
@@ -46,10 +46,10 @@ struct FloatDirect {
       WidenSamples<Kind>(x + k, samples, section + count - 1);
       const Tap* const last = taps + (tapCount - 1 - k);
       if (k == 0) {
-        FirSums<-1>(samples, last, section, sums, static_cast<size_t>(count));
+        SlidingProducts<-1>(samples, last, section, sums, static_cast<size_t>(count));
       } else {
         Tap more[kDirectChunk];
-        FirSums<-1>(samples, last, section, more, static_cast<size_t>(count));
+        SlidingProducts<-1>(samples, last, section, more, static_cast<size_t>(count));
         Add(Parts(more), Parts(sums), count * kParts);
       }
     }

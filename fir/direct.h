@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "fir/ring.h"
 #include "fir/run.h"
 #include "fir/state.h"
 #include "frame/checks.h"
@@ -29,37 +30,7 @@ OrbStatus CheckDirectFilter(const Tap* taps, Orb32s tapCount, const Data* delayL
   return AnyNull(delayLine, index) ? StatusNullPointer : StatusOk;
 }
 
-// ---- The caller's delay line ----
-
-// A doubled ring: each sample stands at i and at i + n, so that line[i] to line[i+n-1] are always the last n
-// samples, the oldest first. 64 bits, since 2n need not fit in 32.
-template <class Data>
-struct FirRing {
-  Data* line;
-  Orb32s* index;
-  int64_t n;
-
-  const Data* Recent() const { return line + *index; }
-
-  ORBS_INLINE void Append(Data sample) const {
-    Data* const at = line + *index;
-    at[0] = at[n] = sample;
-    *index = *index + 1 == n ? 0 : *index + 1;
-  }
-
-  void Append(const Data* samples, int64_t count) const {
-    const int64_t i = *index;
-    *index = static_cast<Orb32s>((i + count) % n);
-    const int64_t kept = count < n ? count : n;
-    const int64_t first = (i + count - kept) % n;
-    const Data* const from = samples + (count - kept);
-    const int64_t head = kept < n - first ? kept : n - first;
-    for (int64_t half = 0; half <= n; half += n) {
-      Copy(from, line + half + first, head);
-      Copy(from + head, line + half, kept - head);
-    }
-  }
-};
+// ---- Single steps ----
 
 template <class Arithmetic, class Data = typename Arithmetic::Data>
 ORBS_INLINE void DirectStep(const Arithmetic& filter, Data sample, Data* dst, FirRing<Data> ring) {

@@ -1,6 +1,6 @@
 // Adaptive FIR filters without a state, a sample at a time.
 #include "fir/lms_kernels.h"
-#include "fir/lms_ring.h"
+#include "fir/ring.h"
 #include "fir/tuning.h"
 #include "frame/checks.h"
 #include "frame/exports.h"
@@ -40,7 +40,7 @@ OrbStatus legacy90orbsFIRLMSOne_Direct_32f(Orb32f src, Orb32f reference, Orb32f*
                                            Orb32s tapCount, Orb32f mu, Orb32f* delayLine,
                                            Orb32s* delayIndex) {
   ORBS_RETURN_IF_BAD(CheckStep(output, taps, tapCount, delayLine, delayIndex));
-  const LmsRing<Orb32f> ring(delayLine, tapCount, delayIndex);
+  const FirRing<Orb32f> ring = {delayLine, delayIndex, tapCount};
   *output = static_cast<Orb32f>(LmsStep(ring, src, reference, taps, mu));
   return StatusOk;
 }
@@ -49,7 +49,7 @@ OrbStatus legacy90orbsFIRLMSOne_Direct32f_16s(Orb16s src, Orb16s reference, Orb1
                                               Orb32s tapCount, Orb32f mu, Orb16s* delayLine,
                                               Orb32s* delayIndex) {
   ORBS_RETURN_IF_BAD(CheckStep(output, taps, tapCount, delayLine, delayIndex));
-  const LmsRing<Orb16s> ring(delayLine, tapCount, delayIndex);
+  const FirRing<Orb16s> ring = {delayLine, delayIndex, tapCount};
   *output = DeliverSum(LmsStep(ring, src, static_cast<Orb32f>(reference), taps, mu));
   return StatusOk;
 }
@@ -58,7 +58,7 @@ OrbStatus legacy90orbsFIRLMSOne_DirectQ15_16s(Orb16s src, Orb16s reference, Orb1
                                               Orb32s tapCount, Orb32s mu, Orb16s* delayLine,
                                               Orb32s* delayIndex) {
   ORBS_RETURN_IF_BAD(CheckStep(output, taps, tapCount, delayLine, delayIndex));
-  const LmsRing<Orb16s> ring(delayLine, tapCount, delayIndex);
+  const FirRing<Orb16s> ring = {delayLine, delayIndex, tapCount};
   *output = DeliverQ15(LmsStepQ15(ring, src, reference, taps, mu));
   return StatusOk;
 }

@@ -8,8 +8,8 @@
 #ifndef ORBS_FIR_LMS_KERNELS_H
 #define ORBS_FIR_LMS_KERNELS_H
 
-#include "fir/lms_ring.h"
 #include "fir/lms_walk.h"
+#include "fir/ring.h"
 #include "frame/scaling.h"
 #include "frame/simd.h"
 
@@ -18,13 +18,13 @@ namespace orbs::ORBS_VARIANT {
 #if ORBS_VECTOR
 
 template <class V, class Sample>
-ORBS_INLINE Orb32f LmsStepWith(const LmsRing<Sample>& ring, Sample newest, Orb32f reference, Orb32f* taps,
+ORBS_INLINE Orb32f LmsStepWith(const FirRing<Sample>& ring, Sample newest, Orb32f reference, Orb32f* taps,
                                Orb32f mu) {
-  const LmsSplit<V> split(ring.Count());
-  const Sample* const x = ring.Samples();
+  const LmsSplit<V> split(static_cast<size_t>(ring.n));
+  const Sample* const x = ring.Upcoming();
   const V lastTaps = split.LoadLast(taps);
   const V lastSamples = split.LoadLastSamples(x, newest);
-  ring.Push(newest);
+  ring.Append(newest);
 
   V sums[4] = {V::Zero(), V::Zero(), V::Zero(), V::Zero()};
   split.ForVectors(
@@ -39,8 +39,8 @@ ORBS_INLINE Orb32f LmsStepWith(const LmsRing<Sample>& ring, Sample newest, Orb32
 }
 
 template <class Sample>
-Orb32f LmsStep(const LmsRing<Sample>& ring, Sample newest, Orb32f reference, Orb32f* taps, Orb32f mu) {
-  return WithVectorFor<F32, F32x4>(ring.Count(), [&](auto* vector) {
+Orb32f LmsStep(const FirRing<Sample>& ring, Sample newest, Orb32f reference, Orb32f* taps, Orb32f mu) {
+  return WithVectorFor<F32, F32x4>(static_cast<size_t>(ring.n), [&](auto* vector) {
     return LmsStepWith<std::remove_pointer_t<decltype(vector)>>(ring, newest, reference, taps, mu);
   });
 }
@@ -58,13 +58,13 @@ ORBS_INLINE void StoreMovedQ15(Orb32s* to, V tap, V g, V sample) {
 }
 
 template <class V, bool kKeep>
-ORBS_INLINE Orb64f LmsStepQ15With(const LmsRing<Orb16s>& ring, Orb16s newest, Orb16s reference, Orb32s* taps,
+ORBS_INLINE Orb64f LmsStepQ15With(const FirRing<Orb16s>& ring, Orb16s newest, Orb16s reference, Orb32s* taps,
                                   Orb32s mu) {
-  const LmsSplit<V> split(ring.Count());
-  const Orb16s* const x = ring.Samples();
+  const LmsSplit<V> split(static_cast<size_t>(ring.n));
+  const Orb16s* const x = ring.Upcoming();
   const V lastTaps = split.LoadLast(taps);
   const V lastSamples = split.LoadLastSamples(x, newest);
-  ring.Push(newest);
+  ring.Append(newest);
 
   alignas(V) Orb64f keptTaps[kKeep ? kLmsKeepTo : 1];
   alignas(V) Orb64f keptSamples[kKeep ? kLmsKeepTo : 1];
@@ -101,9 +101,9 @@ ORBS_INLINE Orb64f LmsStepQ15With(const LmsRing<Orb16s>& ring, Orb16s newest, Or
   return FirstLane(y);
 }
 
-inline Orb64f LmsStepQ15(const LmsRing<Orb16s>& ring, Orb16s newest, Orb16s reference, Orb32s* taps,
+inline Orb64f LmsStepQ15(const FirRing<Orb16s>& ring, Orb16s newest, Orb16s reference, Orb32s* taps,
                          Orb32s mu) {
-  const size_t n = ring.Count();
+  const size_t n = static_cast<size_t>(ring.n);
   if (n >= kLmsKeepFrom && n <= kLmsKeepTo)
     return LmsStepQ15With<F64, true>(ring, newest, reference, taps, mu);
   return WithVectorFor<F64, F64x2>(n, [&](auto* vector) {
@@ -114,14 +114,15 @@ inline Orb64f LmsStepQ15(const LmsRing<Orb16s>& ring, Orb16s newest, Orb16s refe
 #else
 
 template <class Sample>
-Wide<Orb32f> LmsStep(const LmsRing<Sample>& ring, Sample newest, Orb32f reference, Orb32f* taps, Orb32f mu) {
+Wide<Orb32f> LmsStep(const FirRing<Sample>& ring, Sample newest, Orb32f reference, Orb32f* taps, Orb32f mu) {
   using W = Wide<Orb32f>;
-  ring.Push(newest);
-  const Sample* const x = ring.Samples();
+  ring.Append(newest);
+  const Sample* const x = ring.Recent();
   W y = 0;
-  for (size_t k = 0; k < ring.Count(); ++k) y += W(taps[k]) * W(x[k]);
+  for (size_t k = 0; k < static_cast<size_t>(ring.n); ++k) y += W(taps[k]) * W(x[k]);
   const W e = (reference - y) * 2 * mu;
-  for (size_t k = 0; k < ring.Count(); ++k) taps[k] = static_cast<Orb32f>(taps[k] + e * W(x[k]));
+  for (size_t k = 0; k < static_cast<size_t>(ring.n); ++k)
+    taps[k] = static_cast<Orb32f>(taps[k] + e * W(x[k]));
   return y;
 }
 
@@ -132,20 +133,20 @@ constexpr T MulWrapping(T a, T b) {
   return static_cast<T>(static_cast<Unsigned>(a) * static_cast<Unsigned>(b));
 }
 
-inline Orb64s LmsStepQ15(const LmsRing<Orb16s>& ring, Orb16s newest, Orb16s reference, Orb32s* taps,
+inline Orb64s LmsStepQ15(const FirRing<Orb16s>& ring, Orb16s newest, Orb16s reference, Orb32s* taps,
                          Orb32s mu) {
-  ring.Push(newest);
-  const Orb16s* const x = ring.Samples();
+  ring.Append(newest);
+  const Orb16s* const x = ring.Recent();
   Orb64s sum = 0;
   Orb64s energy = 0;
-  for (size_t k = 0; k < ring.Count(); ++k) {
+  for (size_t k = 0; k < static_cast<size_t>(ring.n); ++k) {
     sum += MulWrapping<Orb32s>(taps[k], x[k]);
     energy += Orb32s{x[k]} * x[k];
   }
   const Orb64s y = ShiftTiesEven<Orb64s>(sum, 15);
   if (energy == 0) return y;
   const Orb64s g = MulWrapping<Orb64s>(mu, reference - y);
-  for (size_t k = 0; k < ring.Count(); ++k) {
+  for (size_t k = 0; k < static_cast<size_t>(ring.n); ++k) {
     // A move of 2^32 reaches the other bound from any tap: limited to that, it can be added.
     constexpr Orb64s kLargest = Orb64s{1} << 32;
     const Orb64s move = MulWrapping<Orb64s>(g, x[k]) / energy;

@@ -6,10 +6,10 @@
 #ifndef ORBS_FIR_ONE_KERNELS_H
 #define ORBS_FIR_ONE_KERNELS_H
 
-#include "fir/block_kernels.h"
 #include "fir/state.h"
 #include "frame/scaling.h"
 #include "frame/simd.h"
+#include "frame/sliding_products.h"
 
 namespace orbs::ORBS_VARIANT {
 

@@ -8,6 +8,9 @@
 #ifndef ORBS_FIR_STATE_H
 #define ORBS_FIR_STATE_H
 
+#include <type_traits>
+
+#include "frame/parts.h"
 #include "frame/record.h"
 #include "frame/variant.h"
 #include "orbs90lgc/types.h"
@@ -44,36 +47,6 @@ struct FIRIntState {
 };
 
 namespace orbs::ORBS_VARIANT {
-
-// What a complex type is made of; a real type is its own part.
-template <class T>
-struct PartsOf {
-  using Part = T;
-  static constexpr int kCount = 1;
-};
-#define ORBS_COMPLEX_PARTS(Complex, Real) \
-  template <>                             \
-  struct PartsOf<Complex> {               \
-    using Part = Real;                    \
-    static constexpr int kCount = 2;      \
-  };
-ORBS_COMPLEX_PARTS(Orb32fc, Orb32f)
-ORBS_COMPLEX_PARTS(Orb64fc, Orb64f)
-ORBS_COMPLEX_PARTS(Orb16sc, Orb16s)
-ORBS_COMPLEX_PARTS(Orb32sc, Orb32s)
-#undef ORBS_COMPLEX_PARTS
-
-template <class T>
-using PartOf = typename PartsOf<T>::Part;
-
-template <class T>
-ORBS_INLINE PartOf<T>* Parts(T* array) {
-  return reinterpret_cast<PartOf<T>*>(array);
-}
-template <class T>
-ORBS_INLINE const PartOf<T>* Parts(const T* array) {
-  return reinterpret_cast<const PartOf<T>*>(array);
-}
 
 // A kind of float state: the type of its taps and of its data. The identity is four characters.
 template <class TapType, class DataType>

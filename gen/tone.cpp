@@ -9,7 +9,7 @@ namespace {
 template <class Sample, class Magnitude, class Real>
 ORBS_INLINE OrbStatus GenerateDirect(Sample* dst, Orb32s len, Magnitude magn, Real rFreq, Real* phase,
                                      OrbAlgHint hint) {
-  constexpr int kParts = SampleOf<Sample>::kParts;
+  constexpr int kParts = PartsOf<Sample>::kCount;
   if (phase == nullptr) return StatusNullPointer;
   if (!(magn > 0)) return StatusToneMagnitude;
   if (!IsWithin(0, rFreq, kParts == 1 ? 0.5 : 1.0)) return StatusToneFrequency;
@@ -18,8 +18,7 @@ ORBS_INLINE OrbStatus GenerateDirect(Sample* dst, Orb32s len, Magnitude magn, Re
 
   const Real start = *phase;
   *phase = AdvancedPhase(start, len, rFreq);
-  GenerateTone<kParts>(reinterpret_cast<typename SampleOf<Sample>::Part*>(dst), len, magn, rFreq, start,
-                       hint);
+  GenerateTone<kParts>(Parts(dst), len, magn, rFreq, start, hint);
   return StatusOk;
 }
 

@@ -4,6 +4,7 @@
 
 #include <type_traits>
 
+#include "frame/parts.h"
 #include "frame/scaling.h"
 #include "frame/variant.h"
 #include "orbs90lgc/types.h"
@@ -12,23 +13,6 @@
 #endif
 
 namespace orbs::ORBS_VARIANT {
-
-// Complex samples are pairs of their parts.
-template <class T>
-struct SampleOf {
-  using Part = T;
-  static constexpr int kParts = 1;
-};
-#define ORBS_PAIR_OF(Complex, Real)  \
-  template <>                        \
-  struct SampleOf<Complex> {         \
-    using Part = Real;               \
-    static constexpr int kParts = 2; \
-  };
-ORBS_PAIR_OF(Orb32fc, Orb32f)
-ORBS_PAIR_OF(Orb64fc, Orb64f)
-ORBS_PAIR_OF(Orb16sc, Orb16s)
-#undef ORBS_PAIR_OF
 
 // How a value becomes a 16-bit integer. No bound is tested: |y| is at most the magnitude, which is one.
 enum class ToInteger { kTruncate, kHalfAway };

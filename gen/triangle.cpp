@@ -18,8 +18,7 @@ ORBS_INLINE OrbStatus GenerateDirect(Sample* dst, Orb32s len, Magnitude magn, Re
 
   const Real start = *phase;
   *phase = AdvancedPhase(start, len, rFreq);
-  GenerateTriangle<SampleOf<Sample>::kParts>(reinterpret_cast<typename SampleOf<Sample>::Part*>(dst), len,
-                                             {static_cast<Orb64f>(magn), rFreq, asym}, start);
+  GenerateTriangle<PartsOf<Sample>::kCount>(Parts(dst), len, {static_cast<Orb64f>(magn), rFreq, asym}, start);
   return StatusOk;
 }
 

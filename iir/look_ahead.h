@@ -17,7 +17,6 @@
 
 #include <cstring>
 
-#include "fir/one_kernels.h"
 #include "frame/blocks.h"
 #include "iir/lanes.h"
 #include "iir/layout.h"

@@ -2,7 +2,7 @@
 #ifndef ORBS_IIR_NUMBER_H
 #define ORBS_IIR_NUMBER_H
 
-#include "fir/state.h"
+#include "frame/parts.h"
 #include "frame/variant.h"
 
 namespace orbs::ORBS_VARIANT {

@@ -4,8 +4,8 @@
 
 #include <utility>
 
-#include "fir/block_kernels.h"
 #include "frame/blocks.h"
+#include "frame/sliding_products.h"
 #include "frame/toolkit.h"
 #include "iir/lane_cascade.h"
 #include "iir/look_ahead.h"
@@ -44,7 +44,7 @@ void RunLong(const Work* b, const Orb32f* rows, Orb32s order, const Work* x, Wor
   constexpr int kParts = PartsOf<Work>::kCount;
   Work reversed[kIirPiece / 4 + 1];
   for (Orb32s k = 0; k <= order; ++k) reversed[k] = b[order - k];
-  FirSums(x, reversed, order + 1, y + order, static_cast<size_t>(count - order));
+  SlidingProducts(x, reversed, order + 1, y + order, static_cast<size_t>(count - order));
   LongRecursion<kParts>(rows, order, Parts(y), order, count);
 }
 

@@ -8,7 +8,7 @@
 #ifndef ORBS_IIR_STATE_H
 #define ORBS_IIR_STATE_H
 
-#include "fir/state.h"
+#include "frame/parts.h"
 #include "frame/record.h"
 #include "frame/simd.h"
 #include "frame/variant.h"

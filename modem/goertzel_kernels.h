@@ -14,6 +14,7 @@
 
 #include <type_traits>
 
+#include "frame/parts.h"
 #include "frame/scaling.h"
 #include "frame/variant.h"
 
@@ -115,21 +116,6 @@ struct ComplexSums {
 template <class Sample>
 using PartialSums = std::conditional_t<std::is_class_v<Sample>, ComplexSums, RealSums>;
 
-template <class Sample>
-struct SamplePartOf {
-  using Type = Sample;
-};
-template <>
-struct SamplePartOf<Orb16sc> {
-  using Type = Orb16s;
-};
-template <>
-struct SamplePartOf<Orb32fc> {
-  using Type = Orb32f;
-};
-template <class Sample>
-using SamplePart = typename SamplePartOf<Sample>::Type;
-
 constexpr int Log2(int n) { return n < 2 ? 0 : 1 + Log2(n / 2); }
 
 // How the sums of a signal at kCount frequencies lie in registers. One step of a vector is two fused products
@@ -185,13 +171,13 @@ void SumFourierBlock(const Sample* src, Orb32s len, const Rotations (&rotations)
   using Sums = typename Layout::Sums;
   using Step = typename Sums::Step;
   constexpr int kElements = Layout::kElements;
-  const auto* const first = reinterpret_cast<const SamplePart<Sample>*>(src);
+  const auto* const first = Parts(src);
 
   // The walk begins with what is left over at the end of the block, zeros behind it.
   const Orb32s elements = len * Sums::kParts;
   const Orb32s rest = (elements - 1) % kElements + 1;
   const auto* x = first + (elements - rest);
-  SamplePart<Sample> last[kElements] = {};
+  PartOf<Sample> last[kElements] = {};
   if (rest == kElements) {
     std::memcpy(last, x, sizeof last);
   } else {

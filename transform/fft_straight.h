@@ -3,29 +3,18 @@
 #ifndef ORBS_TRANSFORM_FFT_STRAIGHT_H
 #define ORBS_TRANSFORM_FFT_STRAIGHT_H
 
-#include <utility>
-
+#include "frame/unrolled.h"
 #include "frame/variant.h"
 #include "transform/circle.h"
 #include "transform/fft_data.h"
 
 namespace orbs::ORBS_VARIANT {
 
-// body(0), body(1), ... body(count - 1) with each argument a constant: no loop is left.
-template <class Body, Index... i>
-ORBS_INLINE void UnrolledOver(Body body, std::integer_sequence<Index, i...>) {
-  (body(std::integral_constant<Index, i>{}), ...);
-}
-template <Index count, class Body>
-ORBS_INLINE void Unrolled(Body body) {
-  UnrolledOver(body, std::make_integer_sequence<Index, count>{});
-}
-
-// The same where the argument need not be a constant: a plain loop in px.
+// Unrolled where the argument need not be a constant: a plain loop in px.
 template <Index count, class Body>
 ORBS_INLINE void ForEach(Body body) {
 #if ORBS_VECTOR
-  Unrolled<count>(body);
+  Unrolled<static_cast<int>(count)>(body);
 #else
   for (Index i = 0; i < count; ++i) body(i);
 #endif

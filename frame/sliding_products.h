@@ -7,12 +7,12 @@
 //
 // kTapStep is 1 where the taps are stored reversed, and -1 for taps in natural order, of which the last is
 // given.
-#ifndef ORBS_FIR_BLOCK_KERNELS_H
-#define ORBS_FIR_BLOCK_KERNELS_H
+#ifndef ORBS_FRAME_SLIDING_PRODUCTS_H
+#define ORBS_FRAME_SLIDING_PRODUCTS_H
 
 #include <cstring>
 
-#include "fir/state.h"
+#include "frame/parts.h"
 #include "frame/simd.h"
 
 namespace orbs::ORBS_VARIANT {
@@ -27,20 +27,20 @@ ORBS_INLINE V AddRotated(V a, V b) {
 // 16 vector registers: eight sums of a real tile leave room for the taps and the loads, and eight in flight
 // keep two multiply-adders of four cycles busy. A complex tile of four vectors has eight sums too.
 template <int kParts>
-inline constexpr int kFirTileVectors = kParts == 1 ? 8 : 4;
+inline constexpr int kSlidingTileVectors = kParts == 1 ? 8 : 4;
 
 // The sums of a tile: kVectors vectors of outputs. A tile of half the size has them twice, to keep as many in
 // flight.
 template <int kParts, int kTapStep, int kVectors, class V>
-struct FirTileSums {
+struct SlidingTileSums {
   using Part = typename V::Lane;
   static constexpr size_t kLanes = V::kLanes;
-  static constexpr int kSets = kFirTileVectors<kParts> / kVectors;
+  static constexpr int kSets = kSlidingTileVectors<kParts> / kVectors;
 
   V a[kSets][kVectors];  // by real parts of the taps
   V b[kSets][kVectors];  // by imaginary parts
 
-  ORBS_INLINE FirTileSums() {
+  ORBS_INLINE SlidingTileSums() {
     ORBS_UNROLL
     for (int v = 0; v < kSets * kVectors; ++v)
       a[v / kVectors][v % kVectors] = b[v / kVectors][v % kVectors] = V::Zero();
@@ -88,10 +88,10 @@ struct FirTileSums {
 // cross cache lines half of the time and then count twice: with a load for each multiply-add they are the
 // limit, with one for two they are not.
 template <int kParts, int kTapStep, int kVectors, class V, class Part>
-ORBS_INLINE void FirTile(const Part* x, const Part* taps, size_t n, V (&y)[kVectors]) {
+ORBS_INLINE void SlidingTile(const Part* x, const Part* taps, size_t n, V (&y)[kVectors]) {
   constexpr size_t kShared = 2;
   constexpr size_t kElements = V::kLanes / kParts;
-  FirTileSums<kParts, kTapStep, kVectors, V> sums;
+  SlidingTileSums<kParts, kTapStep, kVectors, V> sums;
   constexpr ptrdiff_t kStep = kTapStep * kParts;
   for (; n >= kShared * kElements; n -= kShared * kElements) {
     for (size_t j = 0; j < kElements; ++j, x += kParts, taps += kStep) sums.template Add<kShared>(x, taps);
@@ -110,7 +110,7 @@ ORBS_INLINE void FirTile(const Part* x, const Part* taps, size_t n, V (&y)[kVect
 
 // One vector of outputs leaves the multiply-adders waiting for each other: the terms take turns in four sums.
 template <int kParts, int kTapStep, class V, class Part>
-ORBS_INLINE V FirVector(const Part* x, const Part* taps, size_t n) {
+ORBS_INLINE V SlidingVector(const Part* x, const Part* taps, size_t n) {
   constexpr size_t kSums = 4;
   V a[kSums];
   V b[kSums];
@@ -134,11 +134,11 @@ ORBS_INLINE V FirVector(const Part* x, const Part* taps, size_t n) {
 
 // `count` outputs. Reads whole vectors: where count is below a vector, up to a vector's end behind x[n-1].
 template <int kTapStep = 1, class Tap>
-void FirSums(const Tap* src, const Tap* tapArray, Orb32s tapCount, Tap* dst, size_t count) {
+void SlidingProducts(const Tap* src, const Tap* tapArray, Orb32s tapCount, Tap* dst, size_t count) {
   using Part = PartOf<Tap>;
   using V = VectorOf<Part>;
   constexpr int kParts = PartsOf<Tap>::kCount;
-  constexpr int kTile = kFirTileVectors<kParts>;
+  constexpr int kTile = kSlidingTileVectors<kParts>;
   constexpr size_t kLanes = V::kLanes;
   const Part* const x = Parts(src);
   const Part* const taps = Parts(tapArray);
@@ -148,32 +148,32 @@ void FirSums(const Tap* src, const Tap* tapArray, Orb32s tapCount, Tap* dst, siz
   size_t i = 0;
   for (; i + kTile * kLanes <= parts; i += kTile * kLanes) {
     V sums[kTile];
-    FirTile<kParts, kTapStep>(x + i, taps, n, sums);
+    SlidingTile<kParts, kTapStep>(x + i, taps, n, sums);
     ORBS_UNROLL
     for (int v = 0; v < kTile; ++v) sums[v].Store(y + i + static_cast<size_t>(v) * kLanes);
   }
   if (i + kTile / 2 * kLanes <= parts) {
     V sums[kTile / 2];
-    FirTile<kParts, kTapStep>(x + i, taps, n, sums);
+    SlidingTile<kParts, kTapStep>(x + i, taps, n, sums);
     ORBS_UNROLL
     for (int v = 0; v < kTile / 2; ++v) sums[v].Store(y + i + static_cast<size_t>(v) * kLanes);
     i += kTile / 2 * kLanes;
   }
-  for (; i + kLanes <= parts; i += kLanes) FirVector<kParts, kTapStep, V>(x + i, taps, n).Store(y + i);
+  for (; i + kLanes <= parts; i += kLanes) SlidingVector<kParts, kTapStep, V>(x + i, taps, n).Store(y + i);
   if (i == parts) return;
   if (parts >= kLanes) {
-    FirVector<kParts, kTapStep, V>(x + parts - kLanes, taps, n).Store(y + parts - kLanes);
+    SlidingVector<kParts, kTapStep, V>(x + parts - kLanes, taps, n).Store(y + parts - kLanes);
     return;
   }
   Part few[kLanes];
-  FirVector<kParts, kTapStep, V>(x, taps, n).Store(few);
+  SlidingVector<kParts, kTapStep, V>(x, taps, n).Store(few);
   std::memcpy(y, few, parts * sizeof(Part));
 }
 
 #else
 
 template <class Tap>
-void FirSums(const Tap* src, const Tap* tapArray, Orb32s tapCount, Tap* dst, size_t count) {
+void SlidingProducts(const Tap* src, const Tap* tapArray, Orb32s tapCount, Tap* dst, size_t count) {
   using Part = PartOf<Tap>;
   constexpr int kParts = PartsOf<Tap>::kCount;
   for (size_t i = 0; i < count; ++i) {
