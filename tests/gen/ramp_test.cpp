@@ -5,6 +5,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "support/effort.h"
 #include "support/export_test.h"
 #include "support/guarded_array.h"
 
@@ -169,8 +170,8 @@ TEST_P(SlopeTest, FollowsTheLimitedLine) {
 }
 
 TEST_P(SlopeTest, LongLinesDoNotDrift) {
-  ExpectSlope(2000000, -130.0f, 1.3e-4f);
-  ExpectSlope(2000000, 127.0f, -1.3e-4f);
+  ExpectSlope(Effort(2'000'000, 200'000), -130.0f, 1.3e-4f);
+  ExpectSlope(Effort(2'000'000, 200'000), 127.0f, -1.3e-4f);
 }
 
 TEST_P(SlopeTest, TiesByVariant) {
@@ -212,14 +213,23 @@ long double ReferenceChirp(int n, int length, long double amplitude) {
   return amplitude * std::sin(static_cast<long double>(phase));
 }
 
+// The x87 rounds a phase twice, on its way through a register, where SSE rounds once: on i386 it may be one
+// unit off, in the library or here.
+long double ChirpSlack(int n, int length, long double amplitude) {
+  if (sizeof(void*) == 8) return 1e-5L;
+  return 1e-5L + amplitude * 1.6L * n / length * n * std::numeric_limits<double>::epsilon();
+}
+
 // Whether `actual` is the integer nearest to y, or either one if y is almost between two.
-bool IsNearest(long double actual, long double y) { return std::abs(actual - y) <= 0.5L + 1e-5L; }
+bool IsNearest(long double actual, long double y, long double slack) {
+  return std::abs(actual - y) <= 0.5L + slack;
+}
 
 class JaehneTest : public ExportTest {};
 ORBS_INSTANTIATE_VARIANTS(JaehneTest);
 
 TEST_P(JaehneTest, EightBitsFollowTheFormula) {
-  std::vector<int> lengths = {255, 256, 257, 1000, 100000};
+  std::vector<int> lengths = {255, 256, 257, 1000, Effort(100000, 10000)};
   for (int length = 1; length <= 70; ++length) lengths.push_back(length);
   for (const int length : lengths) {
     for (const int magn : {0, 1, 100, 127}) {
@@ -227,14 +237,16 @@ TEST_P(JaehneTest, EightBitsFollowTheFormula) {
       ASSERT_EQ(legacy90orbsVectorJaehne_8s(out.data(), length, static_cast<Orb8s>(magn)), StatusOk);
       ASSERT_TRUE(out.GuardsIntact()) << length;
       for (int n = 0; n < length; ++n) {
-        ASSERT_PRED2(IsNearest, out[static_cast<size_t>(n)], ReferenceChirp(n, length, magn)) << length;
+        ASSERT_PRED3(IsNearest, out[static_cast<size_t>(n)], ReferenceChirp(n, length, magn),
+                     ChirpSlack(n, length, magn))
+            << length;
       }
     }
   }
 }
 
 TEST_P(JaehneTest, ThirtyTwoBitsAreTheWavePlusItsMinimum) {
-  std::vector<int> lengths = {255, 256, 257, 1000, 500000};
+  std::vector<int> lengths = {255, 256, 257, 1000, Effort(500000, 50000)};
   for (int length = 1; length <= 40; ++length) lengths.push_back(length);
   for (const int length : lengths) {
     for (const Orb32u magn : {0u, 1u, 255u, 1000001u, 4294967295u}) {
@@ -249,7 +261,8 @@ TEST_P(JaehneTest, ThirtyTwoBitsAreTheWavePlusItsMinimum) {
         const auto wave = static_cast<Orb32s>(out[static_cast<size_t>(n)] - shift);
         smallest = std::min(smallest, wave);
         const long double y = std::min(2147483647.0L, ReferenceChirp(n, length, magn / 2.0L));
-        ASSERT_PRED2(IsNearest, wave, y) << n << " of " << length << ", magnitude " << magn;
+        ASSERT_PRED3(IsNearest, wave, y, ChirpSlack(n, length, magn / 2.0L))
+            << n << " of " << length << ", magnitude " << magn;
       }
       ASSERT_EQ(shift, static_cast<Orb32u>(smallest)) << length;
     }

@@ -6,6 +6,7 @@
 #include <numeric>
 #include <vector>
 
+#include "support/effort.h"
 #include "support/export_test.h"
 #include "support/guarded_array.h"
 
@@ -192,7 +193,7 @@ TEST_P(RandomTest, NoSpreadGivesTheMiddleAndMovesTheSeed) {
 // ---- Statistics, of one long call. The bounds are those that a good generator breaks once in a million.
 // ----
 
-constexpr int kMany = 1 << 20;
+constexpr int kMany = Effort(1 << 20, 1 << 18);
 
 struct Moments {
   double mean = 0;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "gen/tone_forms.h"
+#include "support/effort.h"
 #include "support/export_test.h"
 #include "support/failing_allocator.h"
 #include "support/guarded_array.h"
@@ -61,7 +62,7 @@ void CheckFormula(Function<Sample> tone) {
                                      0.1250001, 0.3,  0.2499999, 0.25,   0.4999999};
   if (FormOf<Sample>::kComplex) frequencies.insert(frequencies.end(), {0.5, 0.6250001, 0.9999999});
   const auto magn = static_cast<Part<Sample>>(31234);
-  constexpr size_t kCount = 2400;
+  constexpr size_t kCount = Effort(2400, 1100);
   std::vector<Sample> dst(kCount);
   for (double frequency : frequencies) {
     const auto rFreq = static_cast<T>(frequency);
@@ -112,7 +113,7 @@ TEST_P(ToneTest, EveryLengthAndAlignment) {
 }
 
 TEST_P(ToneTest, TenMillionSamplesKeepFrequencyAndAmplitude) {
-  constexpr Orb32s kCount = 10'000'000;
+  constexpr Orb32s kCount = Effort(10'000'000, 1'000'000);
   std::vector<Orb32f> real(kCount);
   std::vector<Orb32fc> complex(kCount);
   for (OrbAlgHint hint : {HintAccurate, HintFast}) {
@@ -141,7 +142,7 @@ TEST_P(ToneTest, CallsContinueOneAnother) {
     Orb64f phase = 2;
     Orb64f phaseOfPairs = 2;
     long long position = 0;
-    for (int call = 0; call < 200; ++call) {
+    for (int call = 0; call < Effort(200, 40); ++call) {
       const auto n = static_cast<size_t>(engine() % 700 + 1);
       std::vector<Orb64f> real(n);
       std::vector<Orb64fc> complex(n);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "gen/tone_forms.h"
+#include "support/effort.h"
 #include "support/export_test.h"
 #include "support/failing_allocator.h"
 #include "support/guarded_array.h"
@@ -103,14 +104,15 @@ void CheckFormula(Function<Sample> triangle) {
     asymmetries.push_back(std::nextafter(static_cast<double>(kPi), 0));
   }
   const auto magn = static_cast<Part<Sample>>(31234);
-  std::vector<Sample> dst(2400);
+  constexpr Orb32s kCount = Effort(2400, 600);
+  std::vector<Sample> dst(kCount);
   for (double asym : asymmetries) {
     for (double rFreq : {0.0, 1e-9, 0.00321, 0.25, 0.31, 0.4999999}) {
       for (double start : {0.0, 1.25, static_cast<double>(kLastPhase)}) {
         const Wave wave = {static_cast<double>(magn), static_cast<T>(rFreq), static_cast<T>(asym),
                            static_cast<T>(start)};
         T phase = static_cast<T>(start);
-        ASSERT_EQ(triangle(dst.data(), 2400, magn, static_cast<T>(rFreq), static_cast<T>(asym), &phase),
+        ASSERT_EQ(triangle(dst.data(), kCount, magn, static_cast<T>(rFreq), static_cast<T>(asym), &phase),
                   StatusOk);
         for (size_t i = 0; i < dst.size(); ++i) {
           ASSERT_NO_FATAL_FAILURE(ExpectSample(dst[i], wave, static_cast<long long>(i)));
@@ -168,7 +170,7 @@ TEST_P(TriangleTest, PeaksAndTiesAreExactWhereTheWavesNumbersAre) {
 }
 
 TEST_P(TriangleTest, TenMillionSamplesStayOnTheWave) {
-  constexpr Orb32s kCount = 10'000'000;
+  constexpr Orb32s kCount = Effort(10'000'000, 1'000'000);
   std::vector<Orb32f> dst(kCount);
   const Wave wave = {1, 0.1234567f, 1, 2};
   Orb32f phase = 2;

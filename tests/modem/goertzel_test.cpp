@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "support/effort.h"
 #include "support/export_test.h"
 #include "support/guarded_array.h"
 #include "support/random_data.h"
@@ -221,7 +222,7 @@ TEST_P(GoertzelTest, OneSampleAndFrequencyZeroAreExact) {
 
 // A rotation in single precision that is a little too long or too fast would show in a long block.
 TEST_P(GoertzelTest, LongBlocksKeepFrequencyAndAmplitude) {
-  constexpr Orb32s kLength = 1 << 20;
+  constexpr Orb32s kLength = Effort(1 << 20, 1 << 17);
   const Orb32f f[2] = {0.12345678f, 0.7f};
   std::vector<Orb32fc> tone(kLength);
   for (Orb32s n = 0; n < kLength; ++n) {

@@ -4,7 +4,7 @@
 namespace orbs::test {
 namespace {
 
-constexpr int kMostChecked = kRunsLarge ? 16 : 14;
+constexpr int kMostChecked = kThorough ? 16 : 14;
 
 class FftComplexTest : public FftTest {};
 ORBS_INSTANTIATE_VARIANTS(FftComplexTest);

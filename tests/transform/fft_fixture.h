@@ -8,19 +8,13 @@
 
 #include "fft_access.h"
 #include "fft_reference.h"
+#include "support/effort.h"
 #include "support/guarded_array.h"
 #include "support/random_data.h"
 
 namespace orbs::test {
 
 using Bytes = GuardedArray<unsigned char>;
-
-// Large transforms take minutes where each instruction is emulated or each access is checked.
-#ifdef __SANITIZE_ADDRESS__
-inline constexpr bool kRunsLarge = false;
-#else
-inline constexpr bool kRunsLarge = sizeof(void*) == 8;
-#endif
 
 template <class T>
 inline constexpr int kWidth = sizeof(T) == 4 ? 0 : 1;

@@ -1,6 +1,7 @@
 // The plans of the integer transforms: sizes, memory, statuses, life cycle.
 #include <climits>
 
+#include "support/effort.h"
 #include "support/failing_allocator.h"
 #include "support/guarded_array.h"
 #include "transform/fft_integer_cases.h"
@@ -197,7 +198,7 @@ TEST_P(FftIntegerPlanTest, TheReportedBytesAreEnoughAtAnyAddress) {
         ASSERT_EQ(kind.free(allocated), StatusOk);
 
         // All misalignments where blocks are small, some where they are large.
-        for (size_t gap = 0; gap < 64; gap += order < 4 ? 1 : 13) {
+        for (size_t gap = 0; gap < 64; gap += order < 4 ? Effort(1, 7) : Effort(13, 60)) {
           Memory block(static_cast<size_t>(sizes.plan), gap);
           Memory init(static_cast<size_t>(sizes.init), gap + 1);
           Memory work(static_cast<size_t>(sizes.work), gap + 2);

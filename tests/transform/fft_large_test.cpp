@@ -23,7 +23,7 @@ void CheckAgainstReference(const FftAccess& fft, FftKind interleaved, FftKind sp
 
 // From the first order that any variant cuts into rows and columns to the first that nests this.
 TEST_P(FftLargeTest, IsTheTransformWhereItIsCutIntoRowsAndColumns) {
-  for (int order = kRunsLarge ? 17 : 16; order <= (kRunsLarge ? 20 : 16); ++order) {
+  for (int order = kThorough ? 17 : 16; order <= (kThorough ? 20 : 16); ++order) {
     CheckAgainstReference<Orb32f>(fft, kC_32fc, kC_32f, order);
     CheckAgainstReference<Orb64f>(fft, kC_64fc, kC_64f, order);
   }
@@ -79,7 +79,7 @@ TEST_P(FftLargeTest, HasThePropertiesOfATransform) {
     CheckProperties<Orb64f>(fft, kC_64fc, order);
     CheckProperties<Orb64f>(fft, kC_64f, order);
   }
-  if (!kRunsLarge) return;
+  if (!kThorough) return;
   CheckProperties<Orb32f>(fft, kC_32fc, GetParam() == Variant::h9 ? 24 : 21);
   CheckProperties<Orb64f>(fft, kC_64fc, GetParam() == Variant::h9 ? 22 : 21);
 }

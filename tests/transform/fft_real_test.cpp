@@ -8,7 +8,7 @@ namespace orbs::test {
 namespace {
 
 // Beyond the orders from which the tables have two levels.
-constexpr int kMostChecked = kRunsLarge ? 20 : 14;
+constexpr int kMostChecked = kThorough ? 20 : 14;
 
 class FftRealTest : public FftTest {};
 ORBS_INSTANTIATE_VARIANTS(FftRealTest);
