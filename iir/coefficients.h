@@ -17,7 +17,7 @@ namespace orbs::ORBS_VARIANT {
 // counts in each of a vector of results y[n], y[n+1], ...:
 //   T[k][0] = c[k],   T[k][i] = c[1] T[k][i-1] + ... + c[i] T[k][0] + c[k+i]
 // The sums are made in binary64 and rounded once: the errors of the rows act like errors of coefficients, and
-// for poles near 1 the rows nearly cancel. For order 2 the first row is T[1] + T[2], see look_ahead.h.
+// for poles near 1 the rows nearly cancel. For order 2 the first row has a part of the second, see layout.h.
 template <class Kind>
 void StoreLookAheadRows(const typename Kind::Work* a, Orb32s order, Orb32f* rows) {
   using N = Number<Orb64f, Kind::kParts>;
@@ -32,7 +32,11 @@ void StoreLookAheadRows(const typename Kind::Work* a, Orb32s order, Orb32f* rows
       row[i] = c(k + i);
       for (Orb32s j = 1; j <= i && j <= order; ++j) row[i] = row[i] + c(j) * row[i - j];
       row[i].To(out + int64_t{k - 1} * elements + i);
-      if (order == 2 && k == 1) (row[i] + second[i]).To(out + i);
+      if (order == 2 && k == 1) {
+        const int pairing = PairingOf<Kind::kParts>(Parts(a));
+        if (pairing == 1) (row[i] + second[i]).To(out + i);
+        if (pairing == -1) (row[i] - second[i]).To(out + i);
+      }
       second[i] = row[i];
     }
   }
