@@ -109,7 +109,8 @@ void FilterSection(const Work* t, const Orb32f* rows, Work* d, const Work* u, Wo
 }
 
 // Sections that fill more than half of a vector go through in lanes, in place; the others, and all where
-// there are fewer samples than it takes to reach the last lane, by look-ahead from block to block.
+// there are fewer samples than it takes to reach the last lane, by look-ahead from block to block. Those that
+// leave lanes empty come first, see LaneCascade.
 template <class Kind>
 const typename Kind::Work* FilterCascadePiece(IirView<Kind> view, Orb32s count) {
   using Lanes = LaneCascade<typename Kind::Work>;
@@ -119,13 +120,13 @@ const typename Kind::Work* FilterCascadePiece(IirView<Kind> view, Orb32s count) 
   auto* d = view.Delay();
   const Orb32f* rows = view.LookAheadTable();
   for (Orb32s left = view.state->sectionCount; left > 0;) {
-    Orb32s n = 1;
-    if (left > Lanes::kSections / 2 && count >= Lanes::kFill) {
-      n = left < Lanes::kSections ? left : Lanes::kSections;
+    Orb32s n = (left - 1) % Lanes::kSections + 1;
+    if (n > Lanes::kSections / 2 && count >= Lanes::kFill) {
       Lanes lanes(t, d, n);
       lanes.Run(u, count);
       lanes.StoreDelay(d, n);
     } else {
+      n = 1;
       FilterSection(t, rows, d, u, y, count);
       std::swap(u, y);
     }

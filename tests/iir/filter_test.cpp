@@ -173,20 +173,26 @@ TEST_P(IirFilterTest, PolesNearBothEndsOfTheBand) {
   }
 }
 
-// With poles of opposite signs results grow to infinity and stay there, on the side where they went.
+// With poles of opposite signs results grow to infinity and stay there, on the side where they went. Of many
+// sections the last one is such, so that sections before it have all ways to go.
 TEST_P(IirFilterTest, UnstableFiltersStaySaturated) {
   const Orb32f filters[][6] = {{1, 0.5f, 0.25f, 1, -1, -1}, {1, 0.5f, 0.25f, 1, -0.1f, -1.3f}};
-  for (const auto& taps : filters) {
-    const auto run = [&](auto filter) {
+  const Orb32f stable[] = {1, 0.1f, 0.1f, 1, 0.1f, 0.1f};
+  for (const auto& unstable : filters) {
+    const auto run = [&](auto filter, int units) {
       using F = decltype(filter);
+      std::vector<Orb32f> taps;
+      for (int i = 1; F::kCascade && i < units; ++i) taps.insert(taps.end(), stable, stable + 6);
+      taps.insert(taps.end(), unstable, unstable + 6);
       IIRState* state = nullptr;
-      ASSERT_EQ(F::InitAlloc(&state, taps, F::kCascade ? 1 : 2, 0, nullptr), StatusOk);
+      ASSERT_EQ(F::InitAlloc(&state, taps.data(), units, 0, nullptr), StatusOk);
       const auto y = Run<F>(state, std::vector<Orb16s>(3000, 100), {3000}, 0);
-      for (size_t i = 100; i < y.size(); ++i) ASSERT_EQ(y[i], 32767) << F::kName << ", sample " << i;
+      for (size_t i = 100; i < y.size(); ++i)
+        ASSERT_EQ(y[i], 32767) << F::kName << ", " << units << ", sample " << i;
       F::Free(state);
     };
-    run(FloatBiQuad{});
-    run(FloatOrder{});
+    run(FloatOrder{}, 2);
+    for (int sections : {1, 2, 3, 4, 5, 7, 8, 10, 13}) run(FloatBiQuad{}, sections);
   }
 }
 
