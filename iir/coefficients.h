@@ -17,7 +17,9 @@ namespace orbs::ORBS_VARIANT {
 // counts in each of a vector of results y[n], y[n+1], ...:
 //   T[k][0] = c[k],   T[k][i] = c[1] T[k][i-1] + ... + c[i] T[k][0] + c[k+i]
 // The sums are made in binary64 and rounded once: the errors of the rows act like errors of coefficients, and
-// for poles near 1 the rows nearly cancel. For order 2 the first row is T[1] + T[2], see look_ahead.h.
+// for poles near 1 the rows nearly cancel. For order 2 the first row has a part of the second, see layout.h.
+// For |c[1]| far above 1 rows pass the range of binary32: limited, they still saturate the results, and
+// silence times a limit is silence, which silence times infinity is not.
 template <class Kind>
 void StoreLookAheadRows(const typename Kind::Work* a, Orb32s order, Orb32f* rows) {
   using N = Number<Orb64f, Kind::kParts>;
@@ -25,14 +27,23 @@ void StoreLookAheadRows(const typename Kind::Work* a, Orb32s order, Orb32f* rows
   const Orb32s elements = RowParts(order) / Kind::kParts;
   N second[kMostElements];  // the row after the current one
   const auto c = [&](Orb32s k) { return k <= order ? -N::From(a[k - 1]) : N::Zero(); };
+  const auto limited = [](N row) {
+    constexpr Orb64f kLimit = 0x1p120;  // room for the sum of two
+    for (Orb64f& part : row.part) part = part > kLimit ? kLimit : part < -kLimit ? -kLimit : part;
+    return row;
+  };
   auto* const out = reinterpret_cast<typename Kind::Work*>(rows);
   for (Orb32s k = order; k >= 1; --k) {
     N row[kMostElements];
     for (Orb32s i = 0; i < elements; ++i) {
       row[i] = c(k + i);
       for (Orb32s j = 1; j <= i && j <= order; ++j) row[i] = row[i] + c(j) * row[i - j];
-      row[i].To(out + int64_t{k - 1} * elements + i);
-      if (order == 2 && k == 1) (row[i] + second[i]).To(out + i);
+      limited(row[i]).To(out + int64_t{k - 1} * elements + i);
+      if (order == 2 && k == 1) {
+        const int pairing = PairingOf<Kind::kParts>(Parts(a));
+        if (pairing == 1) limited(row[i] + second[i]).To(out + i);
+        if (pairing == -1) limited(row[i] - second[i]).To(out + i);
+      }
       second[i] = row[i];
     }
   }

@@ -32,24 +32,28 @@ class LaneCascade {
   static constexpr Orb32s kFill = kLaneLag * (kSections - 1);
 
   // Up to kSections sections with their taps t and delay elements d. Lanes without a section pass on what
-  // they get.
+  // they get; they are the first ones, where input is finite: of an infinite number their products with 0
+  // would make what is no number.
   ORBS_INLINE LaneCascade(const Work* t, const Work* d, Orb32s sectionCount) {
+    const Orb32s empty = kSections - sectionCount;
     Orb32f coefficient[5][2][F32::kLanes] = {};
     Orb32f delay[2][F32::kLanes] = {};
-    for (Orb32s s = 0; s < kSections; ++s) {
+    for (Orb32s lane = 0; lane < kSections; ++lane) {
+      const Orb32s s = lane - empty;
       for (int i = 0; i < 5; ++i) {
         N value = N::Zero();
-        if (s < sectionCount) {
+        if (s >= 0) {
           value = N::From(t[5 * s + i]);
         } else if (i == 0) {
           value.part[0] = 1;
         }
         for (int part = 0; part < kParts; ++part) {
-          coefficient[i][0][s * kParts + part] = value.part[0];
-          if (kParts == 2) coefficient[i][1][s * kParts + part] = part == 0 ? -value.part[1] : value.part[1];
+          coefficient[i][0][lane * kParts + part] = value.part[0];
+          if (kParts == 2)
+            coefficient[i][1][lane * kParts + part] = part == 0 ? -value.part[1] : value.part[1];
         }
       }
-      for (int i = 0; i < 2 && s < sectionCount; ++i) N::From(d[2 * s + i]).To(AsWork(delay[i]) + s);
+      for (int i = 0; i < 2 && s >= 0; ++i) N::From(d[2 * s + i]).To(AsWork(delay[i]) + lane);
     }
     ForConstants<5>([&](auto i) {
       t_[i].re = F32::Load(coefficient[i][0]);
@@ -86,7 +90,8 @@ class LaneCascade {
     Subtract(4, y2_, Swapped(y2_), Subtract(3, y1_, swapped, f_)).Store(delay[0]);
     Subtract(4, y1_, swapped, p_).Store(delay[1]);
     for (Orb32s s = 0; s < sectionCount; ++s) {
-      for (int i = 0; i < 2; ++i) N::From(AsWork(delay[i])[s]).To(d + 2 * s + i);
+      const Orb32s lane = kSections - sectionCount + s;
+      for (int i = 0; i < 2; ++i) N::From(AsWork(delay[i])[lane]).To(d + 2 * s + i);
     }
   }
 

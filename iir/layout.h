@@ -16,6 +16,20 @@ inline constexpr Orb32s kIirPiece = 1024;
 // vectors of order 4 the states of real filters have no room with AVX.
 constexpr int RowVectors(Orb32s order) { return order <= 3 ? 2 : 1; }
 constexpr int RowParts(Orb32s order) { return RowVectors(order) * F32::kLanes; }
+
+// For order 2 the first row is T[1] + p T[2], for
+//   y[n-1] T[1] + y[n-2] T[2] = y[n-1] (T[1] + p T[2]) + (y[n-2] - p y[n-1]) T[2]
+// With both poles close to p = 1, which is what low frequencies mean, T[1] and T[2] are large and nearly
+// cancel; their sum is close to 1 and holds what decides about the filter to the last bit, and the difference
+// of results is small. Without this a low-pass at a thousandth of the sample rate would have the wrong gain.
+// p = -1 does the same next to half of the sample rate. Real poles of opposite signs have small rows and p =
+// 0: if they are unstable, results end at infinity, where a difference would not be a number. `a` is a[1] and
+// a[2].
+template <int kParts>
+ORBS_INLINE int PairingOf(const Orb32f* a) {
+  if (kParts == 1 && a[1] < 0) return 0;
+  return a[0] > 0 ? -1 : 1;
+}
 #endif
 inline constexpr int kSectionTableElements = 8;
 

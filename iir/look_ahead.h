@@ -36,6 +36,7 @@ template <>
 struct Factor<1> {
   F32 re;
   static ORBS_INLINE Factor Load(const Orb32f* p) { return {F32::All(p[0])}; }
+  ORBS_INLINE Factor operator+(Factor f) const { return {re + f.re}; }
   ORBS_INLINE Factor operator-(Factor f) const { return {re - f.re}; }
 };
 template <>
@@ -43,6 +44,7 @@ struct Factor<2> {
   F32 re;
   F32 im;
   static ORBS_INLINE Factor Load(const Orb32f* p) { return {F32::All(p[0]), F32::All(p[1])}; }
+  ORBS_INLINE Factor operator+(Factor f) const { return {re + f.re, im + f.im}; }
   ORBS_INLINE Factor operator-(Factor f) const { return {re - f.re, im - f.im}; }
 };
 
@@ -135,7 +137,8 @@ class Silence {
 
 // ---- Orders 1 to 4 ----
 
-template <int kParts, int kOrder>
+// kPairing is that of the table's first row, 0 for orders other than 2.
+template <int kParts, int kOrder, int kPairing = 0>
 class ShortRecursion {
  public:
   static constexpr int kElements = kVectorParts / kParts;
@@ -180,11 +183,7 @@ class ShortRecursion {
   // Rows that reach from quarter to quarter.
   static constexpr int kReach = kOrder < kQuarter ? kOrder : kQuarter;
 
-  // The table's rows. For order 2 it has T[1] + T[2] and T[2], for
-  //   y[n-1] T[1] + y[n-2] T[2] = y[n-1] (T[1] + T[2]) + (y[n-2] - y[n-1]) T[2]
-  // With poles close to 1, which is what low frequencies mean, T[1] and T[2] are large and nearly cancel;
-  // their sum is close to 1 and holds what decides about the filter to the last bit, and the difference of
-  // results is small. Without this a low-pass at a thousandth of the sample rate would have the wrong gain.
+  // The table's rows.
   struct Rows {
     F32 plain[kOrder];
     F32 near[kOrder];
@@ -195,7 +194,8 @@ class ShortRecursion {
         plain[k] = near[k] = F32::Load(table + k * kStride);
         far[k] = kVectors == 2 ? F32::Load(table + k * kStride + kVectorParts) : near[k];
       });
-      if constexpr (kOrder == 2) plain[0] = near[0] - near[1];
+      if constexpr (kPairing == 1) plain[0] = near[0] - near[1];
+      if constexpr (kPairing == -1) plain[0] = near[0] + near[1];
     }
     ORBS_INLINE Silence<kParts, kReach> MakeSilence() const {
       F32 reaching[kReach];
@@ -235,9 +235,9 @@ class ShortRecursion {
 
   ORBS_INLINE F32 AddPast(F32 v, const F32 (&rows)[kOrder]) const {
     auto sum = RowSum<kParts>::From(v);
-    if constexpr (kOrder == 2) {
+    if constexpr (kPairing != 0) {
       const auto last = Past<0>();
-      const auto change = Past<1>() - last;
+      const auto change = kPairing == 1 ? Past<1>() - last : Past<1>() + last;
       sum.Add(last, rows[0]);
       sum.Add(change, rows[1]);
     } else if constexpr (kSplit) {

@@ -35,6 +35,11 @@ void DeliverPiece(const Orb32f* y, Orb16s* dst, Orb32s parts, Orb32f factor) {
 
 template <int kParts, int kOrder>
 void RunShort(const Orb32f* b, const Orb32f* rows, const Orb32f* u, Orb32f* y, Orb32s count) {
+  if constexpr (kOrder == 2) {
+    const int pairing = PairingOf<kParts>(b + 3 * kParts);
+    if (pairing == 1) return ShortRecursion<kParts, 2, 1>(b, rows).Run(u, y, 2, count);
+    if (pairing == -1) return ShortRecursion<kParts, 2, -1>(b, rows).Run(u, y, 2, count);
+  }
   ShortRecursion<kParts, kOrder>(b, rows).Run(u, y, kOrder, count);
 }
 
@@ -96,7 +101,7 @@ void FilterSection(const Work* t, const Orb32f* rows, Work* d, const Work* u, Wo
   const N y0 = b0 * u0 + N::From(d[0]);
   y0.To(y);
   (b1 * u0 + b0 * N::From(u[1]) + N::From(d[1]) - a1 * y0).To(y + 1);
-  ShortRecursion<kParts, 2>(Parts(t), rows).Run(Parts(u), Parts(y), 2, count);
+  RunShort<kParts, 2>(Parts(t), rows, Parts(u), Parts(y), count);
   const N u1 = N::From(u[count - 1]);
   const N y1 = N::From(y[count - 1]);
   (b2 * N::From(u[count - 2]) + b1 * u1 - a1 * y1 - a2 * N::From(y[count - 2])).To(d);
@@ -104,7 +109,8 @@ void FilterSection(const Work* t, const Orb32f* rows, Work* d, const Work* u, Wo
 }
 
 // Sections that fill more than half of a vector go through in lanes, in place; the others, and all where
-// there are fewer samples than it takes to reach the last lane, by look-ahead from block to block.
+// there are fewer samples than it takes to reach the last lane, by look-ahead from block to block. Those that
+// leave lanes empty come first, see LaneCascade.
 template <class Kind>
 const typename Kind::Work* FilterCascadePiece(IirView<Kind> view, Orb32s count) {
   using Lanes = LaneCascade<typename Kind::Work>;
@@ -114,13 +120,13 @@ const typename Kind::Work* FilterCascadePiece(IirView<Kind> view, Orb32s count) 
   auto* d = view.Delay();
   const Orb32f* rows = view.LookAheadTable();
   for (Orb32s left = view.state->sectionCount; left > 0;) {
-    Orb32s n = 1;
-    if (left > Lanes::kSections / 2 && count >= Lanes::kFill) {
-      n = left < Lanes::kSections ? left : Lanes::kSections;
+    Orb32s n = (left - 1) % Lanes::kSections + 1;
+    if (n > Lanes::kSections / 2 && count >= Lanes::kFill) {
       Lanes lanes(t, d, n);
       lanes.Run(u, count);
       lanes.StoreDelay(d, n);
     } else {
+      n = 1;
       FilterSection(t, rows, d, u, y, count);
       std::swap(u, y);
     }

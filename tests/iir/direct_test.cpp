@@ -209,6 +209,33 @@ TEST_P(IirDirectTest, BothArithmeticsAgreeOnWholeNumbers) {
   }
 }
 
+// Silence stays silence however large the taps are, and the first sample saturates.
+TEST_P(IirDirectTest, LargeTaps) {
+  for (Orb16s a : {-300, -32768, 32767}) {
+    const Orb16s taps[] = {1, 0, 0, 0, 0, a, 0, 0};
+    const Orb16s first[] = {1, 0, 0, a};
+    const Orb16s biQuad[] = {1, 0, 0, 0, a, 0};
+    for (int form = 0; form < 3; ++form) {
+      std::vector<Orb16s> x(100);
+      Orb32s delay[3] = {};
+      const auto run = [&] {
+        const int count = static_cast<int>(x.size());
+        return form == 0   ? BlockInPlace(x.data(), count, first, 1, delay)
+               : form == 1 ? BlockInPlace(x.data(), count, taps, 3, delay)
+                           : BlockBiQuadInPlace(x.data(), count, biQuad, 1, delay);
+      };
+      ASSERT_EQ(run(), StatusOk);
+      ASSERT_EQ(x, std::vector<Orb16s>(100)) << a << ", form " << form;
+      ASSERT_EQ(delay[0], 0);
+      x[98] = 200;
+      ASSERT_EQ(run(), StatusOk);
+      ASSERT_EQ(x[97], 0);
+      ASSERT_EQ(x[98], 200);
+      ASSERT_EQ(x[99], a < 0 ? 32767 : -32768);
+    }
+  }
+}
+
 // Ties go away from zero for order N, to even for biquads; what is beyond 32 bits is limited.
 TEST_P(IirDirectTest, DelayLinesAreRoundedBack) {
   // A sample of 0 gives y = d[0] 2^-s and leaves -a[1] y 2^-s, which goes back times 2^s.

@@ -141,26 +141,60 @@ TEST_P(IirFilterTest, LongStreamsNearTheUnitCircle) {
   });
 }
 
-// A low-pass of the kind that an equaliser has: both poles close to 1, where look-ahead rows are largest.
-TEST_P(IirFilterTest, LowFrequencies) {
+// Low-passes of the kind that an equaliser has, and their mirror images next to half of the sample rate: both
+// poles close to 1 or -1, where look-ahead rows are largest.
+TEST_P(IirFilterTest, PolesNearBothEndsOfTheBand) {
   const double w = 0.01;
   const double alpha = std::sin(w) / 1.4;
   const double c = std::cos(w);
-  std::vector<Orb32f> taps;
-  for (double t : {(1 - c) / 2, 1 - c, (1 - c) / 2, 1 + alpha, -2 * c, 1 - alpha}) {
-    taps.push_back(static_cast<Orb32f>(t));
+  for (const double side : {1.0, -1.0}) {
+    std::vector<Orb32f> taps;
+    for (double t : {(1 - c) / 2, side * (1 - c), (1 - c) / 2, 1 + alpha, -2 * side * c, 1 - alpha}) {
+      taps.push_back(static_cast<Orb32f>(t));
+    }
+    // What the state holds: rounded quotients are its filter.
+    std::vector<Orb32f> held = taps;
+    for (Orb32f& t : held) t = static_cast<Orb32f>(t * (1.0 / static_cast<double>(taps[3])));
+    held[3] = 1;
+    std::vector<Orb16s> x(20000, 8000);
+    for (size_t i = 0; i < x.size(); i += 3) x[i] = static_cast<Orb16s>(i % 16001) - 8000;
+    if (side < 0) {
+      for (size_t i = 1; i < x.size(); i += 2) x[i] = static_cast<Orb16s>(-x[i]);
+    }
+    const auto run = [&](auto filter) {
+      using F = decltype(filter);
+      IIRState* state = nullptr;
+      ASSERT_EQ(F::InitAlloc(&state, taps.data(), F::kCascade ? 1 : 2, 0, nullptr), StatusOk);
+      const auto y = Run<F>(state, x, {3000, 0, 517}, 0);
+      ExpectNear<F>(y, ExactResults<F>(held, F::kCascade ? 1 : 2, x), 0, 2.5, std::to_string(side));
+      F::Free(state);
+    };
+    run(FloatBiQuad{});
+    run(FloatOrder{});
   }
-  // What the state holds: rounded quotients are its filter.
-  std::vector<Orb32f> held = taps;
-  for (Orb32f& t : held) t = static_cast<Orb32f>(t * (1.0 / static_cast<double>(taps[3])));
-  held[3] = 1;
-  IIRState* state = nullptr;
-  ASSERT_EQ(FloatBiQuad::InitAlloc(&state, taps.data(), 1, 0, nullptr), StatusOk);
-  std::vector<Orb16s> x(20000, 8000);
-  for (size_t i = 0; i < x.size(); i += 3) x[i] = static_cast<Orb16s>(i % 16001) - 8000;
-  const auto y = Run<FloatBiQuad>(state, x, {3000, 0, 517}, 0);
-  ExpectNear<FloatBiQuad>(y, ExactResults<FloatBiQuad>(held, 1, x), 0, 2.5, "low-pass");
-  FloatBiQuad::Free(state);
+}
+
+// With poles of opposite signs results grow to infinity and stay there, on the side where they went. Of many
+// sections the last one is such, so that sections before it have all ways to go.
+TEST_P(IirFilterTest, UnstableFiltersStaySaturated) {
+  const Orb32f filters[][6] = {{1, 0.5f, 0.25f, 1, -1, -1}, {1, 0.5f, 0.25f, 1, -0.1f, -1.3f}};
+  const Orb32f stable[] = {1, 0.1f, 0.1f, 1, 0.1f, 0.1f};
+  for (const auto& unstable : filters) {
+    const auto run = [&](auto filter, int units) {
+      using F = decltype(filter);
+      std::vector<Orb32f> taps;
+      for (int i = 1; F::kCascade && i < units; ++i) taps.insert(taps.end(), stable, stable + 6);
+      taps.insert(taps.end(), unstable, unstable + 6);
+      IIRState* state = nullptr;
+      ASSERT_EQ(F::InitAlloc(&state, taps.data(), units, 0, nullptr), StatusOk);
+      const auto y = Run<F>(state, std::vector<Orb16s>(3000, 100), {3000}, 0);
+      for (size_t i = 100; i < y.size(); ++i)
+        ASSERT_EQ(y[i], 32767) << F::kName << ", " << units << ", sample " << i;
+      F::Free(state);
+    };
+    run(FloatOrder{}, 2);
+    for (int sections : {1, 2, 3, 4, 5, 7, 8, 10, 13}) run(FloatBiQuad{}, sections);
+  }
 }
 
 // The result saturates, the recursion does not: an integrator returns the way it came.
