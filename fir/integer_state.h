@@ -114,10 +114,11 @@ inline FirQuantisation QuantisationOf(const Orb32f* taps, int64_t parts) {
   return q;
 }
 
-// The integer part of y plus a half away from zero; what has none gives the lower bound.
-ORBS_INLINE Orb32s QuantiseTap(float y) {
-  const float shifted = y >= 0 ? y + 0.5f : y - 0.5f;
-  return shifted >= -2147483648.0f && shifted < 2147483648.0f ? static_cast<Orb32s>(shifted) : INT32_MIN;
+// The integer part of y plus a half away from zero; what has none gives the lower bound. In binary64, where
+// the sum is exact: in binary32 it would carry 0.49999997 to 1.
+ORBS_INLINE Orb32s QuantiseTap(Orb64f y) {
+  const Orb64f shifted = y >= 0 ? y + 0.5 : y - 0.5;
+  return shifted > -2147483649.0 && shifted < 2147483648.0 ? static_cast<Orb32s>(shifted) : INT32_MIN;
 }
 
 // Stores `parts` numbers of n taps, element by element reversed.
@@ -152,7 +153,7 @@ template <class Kind, class Given>
 void StoreQuantisedTaps(FirIntView<Kind> view, const Given* given) {
   const Orb32f* taps = Parts(given);
   const FirQuantisation q = QuantisationOf(taps, int64_t{view.state->tapCount} * Kind::kParts);
-  StoreIntTaps(view, q.factor, [=](int64_t i) { return QuantiseTap(taps[i] * q.scale); });
+  StoreIntTaps(view, q.factor, [=](int64_t i) { return QuantiseTap(Orb64f{taps[i]} * q.scale); });
 }
 
 // ---- Delay line; the caller's has the newest sample first ----

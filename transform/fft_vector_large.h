@@ -99,9 +99,10 @@ template <class T>
 bool SameArray(Interleaved<const T> a, Interleaved<T> b) {
   return a.pairs == b.pairs;
 }
+// One shared array of the two is enough: an exchange in place is right for separate arrays as well.
 template <class T>
 bool SameArray(Split<const T> a, Split<T> b) {
-  return a.re == b.re;
+  return a.re == b.re || a.im == b.im;
 }
 
 template <bool kForward, template <class> class Data, class T>

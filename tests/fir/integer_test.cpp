@@ -242,6 +242,13 @@ TEST_P(FirIntegerTest, FloatTapsAreQuantised) {
   ASSERT_EQ(legacy90orbsFIRGetTaps32sc_16sc32fc(state, back), StatusOk);
   EXPECT_EQ(back[0].im, -1.0f);
   EXPECT_EQ(back[1].im, 0.125f);
+  // The number just below a half, beside a tap that sets the scale to 2^14.
+  const Orb32fc nearHalf[2] = {{1, 0.49999997f / 16384}, {-0.49999997f / 16384, 0.5f / 16384}};
+  ASSERT_EQ(legacy90orbsFIRSetTaps32sc_16sc32fc(nearHalf, state), StatusOk);
+  ASSERT_EQ(legacy90orbsFIRGetTaps32sc_16sc32fc(state, back), StatusOk);
+  EXPECT_EQ(back[0].im, 0);
+  EXPECT_EQ(back[1].re, 0);
+  EXPECT_EQ(back[1].im, 1.0f / 16384);
   // Taps that have no 16 bits at all are stored as something, without a fault.
   const Orb32fc wild[2] = {{INFINITY, NAN}, {-3e38f, 1}};
   ASSERT_EQ(legacy90orbsFIRSetTaps32sc_16sc32fc(wild, state), StatusOk);

@@ -29,6 +29,32 @@ TEST_P(FftLargeTest, IsTheTransformWhereItIsCutIntoRowsAndColumns) {
   }
 }
 
+// Each array of a split pair may be source and result by itself.
+TEST_P(FftLargeTest, OneArrayOfASplitPairCanStayInPlace) {
+  for (const int order : {6, 12, kRunsLarge ? 19 : 16}) {
+    const Signal<Orb32f> x = RandomSignal<Orb32f>(size_t{1} << order, 2);
+    const TestPlan plan(fft, kC_32f, order);
+    CallWork work(plan, true);
+    const Signal<Orb32f> expected = Transform(plan, false, x);
+    for (const bool realInPlace : {false, true}) {
+      std::vector<Orb32f> re(x.size());
+      std::vector<Orb32f> im(x.size());
+      std::vector<Orb32f> other(x.size());
+      for (size_t i = 0; i < x.size(); ++i) {
+        re[i] = x[i].real();
+        im[i] = x[i].imag();
+      }
+      std::vector<Orb32f>& outRe = realInPlace ? re : other;
+      std::vector<Orb32f>& outIm = realInPlace ? other : im;
+      ASSERT_EQ(fft.split[0][0](re.data(), im.data(), outRe.data(), outIm.data(), plan.Get(), work.Get()),
+                StatusOk);
+      Signal<Orb32f> y(x.size());
+      for (size_t i = 0; i < x.size(); ++i) y[i] = {outRe[i], outIm[i]};
+      EXPECT_LE(RelativeError(y, ToExact(expected)), ErrorLimit<Orb32f>(order)) << order << realInPlace;
+    }
+  }
+}
+
 template <class T>
 void CheckProperties(const FftAccess& fft, FftKind kind, int order) {
   SCOPED_TRACE(std::string(kFftKindNames[kind]) + ", order " + std::to_string(order));
