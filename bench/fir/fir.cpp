@@ -112,9 +112,8 @@ void CompareOne(Orb32s tapCount) {
 // Blocks that stay below 512 real or 256 complex samples go by inner products whatever the taps.
 void Declare() {
   for (const Orb32s tapCount : {16, 32, 63}) CompareBlocks32f(tapCount, {160, 511, 4096});
-  for (const Orb32s tapCount : {128, 512}) CompareBlocks32f(tapCount, {511, 4096, 65536});
-  for (const Orb32s tapCount : {8, 15}) CompareBlocks32fc(tapCount, {255, 4096});
-  for (const Orb32s tapCount : {64, 256}) CompareBlocks32fc(tapCount, {255, 4096});
+  for (const Orb32s tapCount : {64, 96, 128, 256, 512}) CompareBlocks32f(tapCount, {511, 4096});
+  for (const Orb32s tapCount : {8, 15, 16, 32, 64, 128, 256}) CompareBlocks32fc(tapCount, {255, 4096});
   for (const Orb32s tapCount : {16, 32, 63}) CompareBlocks64f(tapCount, {511, 4096});
   for (const Orb32s tapCount : {16, 64, 256}) CompareBlocks16s(tapCount, {160, 4096});
   for (const Orb32s tapCount : {16, 63}) CompareBlocks32f16s(tapCount, {160, 4096});
