@@ -88,8 +88,7 @@ void FillGauss(Result* dst, Orb32s len, Orb64f mean, Orb64f stdDev, Orb32u* seed
     const Orb32s most = room / 2 + room % 2;
     points.Clear();
     while (points.count() < most && points.HasRoom()) {
-      const int numberCount =
-          2 * (most - points.count()) <= kRandomHalfBlock ? kRandomHalfBlock : kRandomBlock;
+      const int numberCount = most - points.count() <= kRandomHalfBlock / 2 ? kRandomHalfBlock : kRandomBlock;
       block.Fill(place, numberCount);
       used = points.Collect(block.numbers, numberCount, most);
     }

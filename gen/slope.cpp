@@ -7,11 +7,13 @@
 namespace orbs::ORBS_VARIANT {
 namespace {
 
-// A number of elements from where the line crosses a bound. NaN gives 0.
+// The number of elements up to and with index k, where the line crosses a bound. None for a negative k, also
+// for one that adding 1 would round to 0: a steep line has not reached the bound at its first element. NaN
+// gives 0.
 Orb32s AsCount(long double k) {
   constexpr Orb32s kMost = std::numeric_limits<Orb32s>::max();
-  if (k >= kMost) return kMost;
-  return k > 0 ? static_cast<Orb32s>(k) : 0;
+  if (k >= kMost - 1) return kMost;
+  return k >= 0 ? static_cast<Orb32s>(k) + 1 : 0;
 }
 
 void Fill(Orb8s value, Orb8s* dst, Orb32s count) {
@@ -31,8 +33,8 @@ void FillSlope(Orb8s* dst, Orb32s len, Orb32f offset, Orb32f slope) {
 
   // Extended precision in every variant: all agree on where the fills end.
   const long double inverse = 1.0L / slope;
-  const Orb32s crossHigh = AsCount(1 + (kHigh - static_cast<long double>(offset)) * inverse);
-  const Orb32s crossLow = AsCount(1 + (kLow - static_cast<long double>(offset)) * inverse);
+  const Orb32s crossHigh = AsCount((kHigh - static_cast<long double>(offset)) * inverse);
+  const Orb32s crossLow = AsCount((kLow - static_cast<long double>(offset)) * inverse);
   const bool rising = slope > 0;
   const Orb32s end = rising ? crossHigh : crossLow;
   const Orb32s lineEnd = end < len ? end : len;

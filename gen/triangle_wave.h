@@ -44,13 +44,18 @@ ORBS_INLINE TriangleSlopes<Real> SlopesOf(const TriangleParameters& wave) {
   const Exact a = static_cast<Exact>(kPi) + wave.asym;
   const Exact b = static_cast<Exact>(kPi) - wave.asym;
   const Exact magn = wave.magn;
-  const Exact height = 4 * static_cast<Exact>(kPi) * magn;
-  return {static_cast<Real>(-(height * wave.rFreq / a)),
-          static_cast<Real>(height * wave.rFreq / b),
+  // pi is divided before it is multiplied: without asymmetry both quotients are exactly 1, and the slopes as
+  // exact as 4 magn rFreq. A slope that is off in its last bit would carry samples at -magn past the bottom,
+  // and the reflection 16-bit samples one short of it.
+  const Exact height = 4 * magn;
+  const Exact perFall = static_cast<Exact>(kPi) / a;
+  const Exact perRise = static_cast<Exact>(kPi) / b;
+  return {static_cast<Real>(-(height * wave.rFreq * perFall)),
+          static_cast<Real>(height * wave.rFreq * perRise),
           static_cast<Real>(-b / a),
           static_cast<Real>(-a / b),
-          static_cast<Real>(height / b),
-          static_cast<Real>(height / a),
+          static_cast<Real>(height * perRise),
+          static_cast<Real>(height * perFall),
           static_cast<Real>(magn + b / a * magn),
           static_cast<Real>(-(a / b) * magn - magn)};
 }

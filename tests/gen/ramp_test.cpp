@@ -169,6 +169,11 @@ TEST_P(SlopeTest, FollowsTheLimitedLine) {
   }
 }
 
+TEST_P(SlopeTest, ALineOfAnySteepnessBeginsAtItsOffset) {
+  EXPECT_EQ(Slope(3, 5.0f, 1e30f), (std::vector<Orb8s>{5, 127, 127}));
+  EXPECT_EQ(Slope(3, 5.0f, -1e30f), (std::vector<Orb8s>{5, -128, -128}));
+}
+
 TEST_P(SlopeTest, LongLinesDoNotDrift) {
   ExpectSlope(Effort(2'000'000, 200'000), -130.0f, 1.3e-4f);
   ExpectSlope(Effort(2'000'000, 200'000), 127.0f, -1.3e-4f);

@@ -157,6 +157,16 @@ TEST_P(TriangleTest, PeaksAndTiesAreExactWhereTheWavesNumbersAre) {
   constexpr Orb16s kQuarters[] = {1, 0, -1, 0};
   for (size_t i = 0; i < cut.size(); ++i) ASSERT_EQ(cut[i], kQuarters[i % 4]) << i;
 
+  // 4 magn pi needs more bits than extended precision has.
+  for (const Orb16s magn : {3, 6957, 32767}) {
+    phase = 0;
+    ASSERT_EQ(legacy90orbsTriangle_Direct_16s(cut.data(), 2000, magn, 0.375f, 0, &phase), StatusOk);
+    const auto half = static_cast<Orb16s>(magn / 2);
+    const auto minus = [](int y) { return static_cast<Orb16s>(-y); };
+    const Orb16s eighths[] = {magn, minus(half), 0, half, minus(magn), half, 0, minus(half)};
+    for (size_t i = 0; i < cut.size(); ++i) ASSERT_EQ(cut[i], eighths[i % 8]) << magn << " " << i;
+  }
+
   // Eighths of magnitude 1: every second sample is half an integer.
   alignas(8) unsigned char memory[136];
   auto* state = reinterpret_cast<TriangleState*>(memory);
