@@ -6,8 +6,7 @@
 //   real      pairs of neighbouring taps, t0 t1, t2 t3 ...; an odd count begins with a zero, so that the pair
 //             reaches one sample back, which always exists, and not one ahead
 //   complex   for each tap the pair re, -im, which makes the real part; then, behind all of them, for each
-//   tap
-//             the pair im, re, which makes the imaginary part
+//             tap the pair im, re, which makes the imaginary part
 //
 // padded with zeros to whole vectors for the one-sample filters.
 #ifndef ORBS_FIR_INTEGER_KERNELS_H

@@ -1,14 +1,13 @@
 // Vector transforms above the one-pass ceiling: in place on the result, with little work space and small
 // tables.
 //
-//   1. The first pass takes tiles of 32 by 32 points and puts each down where its reversed number says, by
-//   way
-//      of the work buffer; in place, two tiles change places.
+//   1. The first pass takes tiles of 32 by 32 points and puts each down where its reversed number says,
+//      by way of the work buffer; in place, two tiles change places.
 //   2. Rows of 2^m points, m at most the one-pass ceiling, run their passes one after the other.
-//   3. Long passes of radix 8 over q = 2^m, 2^(m+3), ... points a block finish the transform. A table of
-//   their
-//      twiddles would be as large as the data, so it has two levels: the factor of k = kFine a + b is the
-//      product of coarse entry a and fine entry b. The arithmetic hides behind the memory.
+//   3. Long passes of radix 8 over q = 2^m, 2^(m+3), ... points a block finish the transform. A table
+//      of their twiddles would be as large as the data, so it has two levels: the factor of
+//      k = kFine a + b is the product of coarse entry a and fine entry b. The arithmetic hides behind
+//      the memory.
 #ifndef ORBS_TRANSFORM_FFT_VECTOR_LARGE_H
 #define ORBS_TRANSFORM_FFT_VECTOR_LARGE_H
 

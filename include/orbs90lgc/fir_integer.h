@@ -13,14 +13,16 @@
  * shifted left in 32 bits, bits above falling away. Then it is saturated to 16 bits. Complex sums are without
  * conjugation, and each component is scaled. All variants give the same numbers.
  *
- * | Suffix           | Taps given as        | Stored so |
- * |------------------|----------------------|------------------------------------------------------------------|
- * | `_16s`           | Orb16s, a factor     | if any tap is -32768, all shifted right by 1 and the factor + 1
- * | | `32s_16s`        | Orb32s, a factor     | all shifted right by the least j that makes magnitudes 32766
- * or less, the factor + j | | `32sc_16sc`      | Orb32sc, a factor    | the same over both components | |
- * `32s_16s32f`     | Orb32f               | times 2^-factor, rounded half away from zero; the factor puts the
- * largest magnitude in the upper half of 16 bits | | `32sc_16sc32fc`  | Orb32fc              | the same over
- * both components                                    |
+ * | Suffix          | Taps given as     | Stored                                                   |
+ * |-----------------|-------------------|----------------------------------------------------------|
+ * | `_16s`          | Orb16s, a factor  | as given; if any tap is -32768, all shifted right by 1   |
+ * | `32s_16s`       | Orb32s, a factor  | shifted right until no magnitude is above 32766          |
+ * | `32sc_16sc`     | Orb32sc, a factor | the same over both components                            |
+ * | `32s_16s32f`    | Orb32f            | times 2^-tapsFactor, rounded half away from 0            |
+ * | `32sc_16sc32fc` | Orb32fc           | the same, with one factor for both components            |
+ *
+ * The places of a shift are the same for all taps and are added to the factor. The factor of floating-point
+ * taps is the one that puts the largest magnitude in the upper half of 16 bits, within -33 to 33.
  *
  * Right shifts are arithmetic: -3 becomes -2. States of the last two suffixes are of the kinds `32s_16s` and
  * `32sc_16sc` and go with their functions. Taps that are all zero get the factor -33.
