@@ -41,8 +41,8 @@ struct FloatDirect {
   void OutputsWidened(const Data* x, Data* dst, Orb32s count) const {
     Tap samples[kDirectTaps + kDirectChunk + kDirectRoom];
     Tap sums[kDirectChunk];
-    for (Orb32s k = 0; k < tapCount; k += kDirectTaps) {
-      const Orb32s section = tapCount - k < kDirectTaps ? tapCount - k : kDirectTaps;
+    for (int64_t k = 0; k < tapCount; k += kDirectTaps) {
+      const auto section = static_cast<Orb32s>(tapCount - k < kDirectTaps ? tapCount - k : kDirectTaps);
       WidenSamples<Kind>(x + k, samples, section + count - 1);
       const Tap* const last = taps + (tapCount - 1 - k);
       if (k == 0) {

@@ -126,8 +126,8 @@ struct IntegerDirect {
     Data samples[1 + kDirectTaps + kDirectChunk + kDirectRoom];
     samples[0] = Data{};
     Orb32s sums[kDirectChunk * kParts];
-    for (Orb32s k = 0; k < tapCount; k += kDirectTaps) {
-      const Orb32s section = tapCount - k < kDirectTaps ? tapCount - k : kDirectTaps;
+    for (int64_t k = 0; k < tapCount; k += kDirectTaps) {
+      const auto section = static_cast<Orb32s>(tapCount - k < kDirectTaps ? tapCount - k : kDirectTaps);
       Copy(x + k, samples + 1, section + count - 1);
       split.Store(taps + (tapCount - 1 - k), section);
       const Orb16s* const from = Parts(samples + 1) - (kParts == 1 ? section % 2 : 0);

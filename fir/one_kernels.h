@@ -6,6 +6,8 @@
 #ifndef ORBS_FIR_ONE_KERNELS_H
 #define ORBS_FIR_ONE_KERNELS_H
 
+#include <cstddef>
+
 #include "fir/state.h"
 #include "frame/scaling.h"
 #include "frame/simd.h"
@@ -209,9 +211,9 @@ ORBS_INLINE void FirDot(const Sample* x, const Part* taps, Orb32s tapCount, Y (&
 template <int kTapStep = 1, int kParts, class Sample, class Part>
 void FirDot(const Sample* x, const Part* taps, Orb32s tapCount, Wide<Part> (&y)[kParts]) {
   using W = Wide<Part>;
-  const auto term = [&](Orb32s k, W(&t)[kParts]) {
-    const Part* h = taps + int64_t{k} * kTapStep * kParts;
-    const Sample* s = x + int64_t{k} * kParts;
+  const auto term = [&](size_t k, W(&t)[kParts]) {
+    const Part* h = taps + static_cast<ptrdiff_t>(k) * kTapStep * kParts;
+    const Sample* s = x + k * kParts;
     if constexpr (kParts == 1) {
       t[0] = W(h[0]) * s[0];
     } else {
@@ -220,11 +222,12 @@ void FirDot(const Sample* x, const Part* taps, Orb32s tapCount, Wide<Part> (&y)[
     }
   };
   for (W& part : y) part = 0;
-  for (Orb32s k = 0; k < tapCount; k += 2) {
+  const auto n = static_cast<size_t>(tapCount);
+  for (size_t k = 0; k < n; k += 2) {
     W even[kParts];
     W odd[kParts] = {};
     term(k, even);
-    if (k + 1 < tapCount) term(k + 1, odd);
+    if (k + 1 < n) term(k + 1, odd);
     for (int part = 0; part < kParts; ++part) y[part] += even[part] + odd[part];
   }
 }

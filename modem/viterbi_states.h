@@ -147,7 +147,7 @@ ORBS_INLINE bool AnyLane(I16 mask) {
 // n is at least a vector.
 inline Orb16u LeastMetric(const Orb16u* metrics, Orb32s n, Orb32s* index) {
   I16 least = LoadBiased(metrics + n - I16::kLanes);
-  for (Orb32s i = 0; i + I16::kLanes <= n; i += I16::kLanes) least = Min(least, LoadBiased(metrics + i));
+  for (Orb32s i = 0; i <= n - I16::kLanes; i += I16::kLanes) least = Min(least, LoadBiased(metrics + i));
   Orb16s lanes[I16::kLanes];
   least.Store(lanes);
   Orb16s result = lanes[0];
@@ -155,7 +155,7 @@ inline Orb16u LeastMetric(const Orb16u* metrics, Orb32s n, Orb32s* index) {
 
   const I16 wanted = I16::All(result);
   Orb32s i = 0;
-  while (i + I16::kLanes <= n && !AnyLane(AndNot(Greater(LoadBiased(metrics + i), wanted), I16::All(-1)))) {
+  while (i <= n - I16::kLanes && !AnyLane(AndNot(Greater(LoadBiased(metrics + i), wanted), I16::All(-1)))) {
     i += I16::kLanes;
   }
   const auto value = static_cast<Orb16u>(result ^ -32768);

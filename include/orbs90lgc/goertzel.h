@@ -20,8 +20,9 @@
  * other variants to even. A NaN becomes -32768.
  *
  * The variant `px` evaluates in at least double precision. The others compute the `16sc`, `32f` and `32fc`
- * sums in single precision, which is good to about 2e-6 of the sum of the magnitudes of the block, for blocks
- * of any length. The `64f` and `64fc` functions work in double precision everywhere.
+ * sums in single precision, which is good to 1e-5 of the sum of the magnitudes of the block, for blocks of
+ * any length, and to about 2e-6 where the signal does not gather in the last samples of 1024. The `64f` and
+ * `64fc` functions work in double precision everywhere.
  *
  * The recursions: G. Goertzel, "An Algorithm for the Evaluation of Finite Trigonometric Series", The American
  * Mathematical Monthly 65 (1958), 34-35.

@@ -1,5 +1,7 @@
 // The direct forms of FIR filters: streams cut in every way against the formula, the caller's ring element by
 // element, rounding, statuses.
+#include <sys/mman.h>
+
 #include <cstring>
 #include <limits>
 #include <vector>
@@ -156,6 +158,50 @@ TEST_P(FirDirectTest, LongFilters) {
     for (int n : {257, 258, 600})
       CheckStream<F>(n, n - 300 > 0 ? n - 300 : 3, {n + 400, 0, -260, 5, 300}, F::kInteger ? 1 : 0);
   });
+}
+
+// Pages that cost no memory as long as they are only read.
+template <class T>
+class ZeroArray {
+ public:
+  explicit ZeroArray(size_t count) : bytes_(count * sizeof(T)) {
+    constexpr int kFlags = MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE;
+    base_ = mmap(nullptr, bytes_, PROT_READ | PROT_WRITE, kFlags, -1, 0);
+  }
+  ZeroArray(const ZeroArray&) = delete;
+  ZeroArray& operator=(const ZeroArray&) = delete;
+  ~ZeroArray() {
+    if (base_ != MAP_FAILED) munmap(base_, bytes_);
+  }
+  T* data() { return base_ == MAP_FAILED ? nullptr : static_cast<T*>(base_); }
+
+ private:
+  size_t bytes_;
+  void* base_;
+};
+
+// 2^31-1 taps, at the end of which a 32-bit counter that moves by more than one does not stop. Takes seconds
+// in each variant and 24 GiB of address space: to be run by hand when a walk over taps has changed.
+TEST_P(FirDirectTest, DISABLED_MostTapsThereCanBe) {
+  if (sizeof(void*) < 8) GTEST_SKIP() << "needs 64-bit addresses";
+  constexpr Orb32s kTaps = std::numeric_limits<Orb32s>::max();
+  const auto check = [](auto filter) {
+    using F = decltype(filter);
+    ZeroArray<typename F::Tap> taps(kTaps);
+    ZeroArray<Orb16s> line(2 * static_cast<size_t>(kTaps));
+    if (taps.data() == nullptr || line.data() == nullptr) GTEST_SKIP() << "no room";
+    taps.data()[0] = 3;
+    Orb32s index = 0;
+    Orb16s y[9] = {7};
+    ASSERT_EQ(F::OneInPlace(y, taps.data(), kTaps, 0, line.data(), &index, 0), StatusOk);
+    EXPECT_EQ(y[0], 21) << F::kName;
+    const std::vector<Orb16s> x = {1, 2, 3, 4, 5, 6, 7, 8, 9};
+    ASSERT_EQ(F::Block(x.data(), y, 9, taps.data(), kTaps, 0, line.data(), &index, 0), StatusOk);
+    for (size_t i = 0; i < x.size(); ++i) EXPECT_EQ(y[i], 3 * x[i]) << F::kName;
+    EXPECT_EQ(index, 10);
+  };
+  check(Direct32s{});
+  check(Direct64f_16s{});
 }
 
 // A delay line filled by hand, with halves that differ: a block is still what its steps are.

@@ -1,5 +1,6 @@
 // Goertzel detectors against the Fourier sum, term by term.
 #include <algorithm>
+#include <array>
 #include <cfenv>
 #include <cmath>
 #include <complex>
@@ -218,6 +219,21 @@ TEST_P(GoertzelTest, OneSampleAndFrequencyZeroAreExact) {
   ASSERT_EQ(legacy90orbsGoertzTwo_64f(wide.data(), 19, turned, frequencies), StatusOk);
   EXPECT_DOUBLE_EQ(turned[0].re, 190);
   EXPECT_NEAR(turned[1].re, -10, 1e-12);  // 1 - 2 + 3 ... turned by 19 half turns
+}
+
+// A single sample that has all rotations of a block before it, at frequencies whose sine and cosine lie
+// between two numbers of single precision.
+TEST_P(GoertzelTest, PulseAtTheEndKeepsItsPhase) {
+  const double bound = GetParam() == Variant::px ? 1e-7 : 1e-5;
+  std::vector<Orb32fc> x(1024);
+  x.back() = {1, 0};
+  for (const auto& f : {std::array<Orb32f, 2>{0.077249825f, 0.741926908f}, {0.0249778442f, 0.578122556f}}) {
+    Orb32fc result[2];
+    ASSERT_EQ(legacy90orbsGoertzTwo_32fc(x.data(), 1024, result, f.data()), StatusOk);
+    for (size_t k = 0; k < 2; ++k) {
+      EXPECT_LE(std::abs(ToValue(result[k]) - Turned(1.0, -1023 * static_cast<long double>(f[k]))), bound);
+    }
+  }
 }
 
 // A rotation in single precision that is a little too long or too fast would show in a long block.
