@@ -93,17 +93,19 @@ ORBS_INLINE void SlidingTile(const Part* x, const Part* taps, size_t n, V (&y)[k
   constexpr size_t kElements = V::kLanes / kParts;
   SlidingTileSums<kParts, kTapStep, kVectors, V> sums;
   constexpr ptrdiff_t kStep = kTapStep * kParts;
+  ptrdiff_t tap = 0;  // an index: behind the last term a pointer would leave the caller's array
   for (; n >= kShared * kElements; n -= kShared * kElements) {
-    for (size_t j = 0; j < kElements; ++j, x += kParts, taps += kStep) sums.template Add<kShared>(x, taps);
+    for (size_t j = 0; j < kElements; ++j, x += kParts, tap += kStep)
+      sums.template Add<kShared>(x, taps + tap);
     x += (kShared - 1) * V::kLanes;
-    taps += static_cast<ptrdiff_t>(kShared - 1) * kTapStep * V::kLanes;
+    tap += static_cast<ptrdiff_t>(kShared - 1) * kTapStep * V::kLanes;
   }
   size_t singles = n;
   if (n > kElements) {
     singles = 2 * kElements - n;
-    for (; n > kElements; --n, x += kParts, taps += kStep) sums.template Add<kShared>(x, taps);
+    for (; n > kElements; --n, x += kParts, tap += kStep) sums.template Add<kShared>(x, taps + tap);
   }
-  for (; singles > 0; --singles, x += kParts, taps += kStep) sums.template Add<1>(x, taps);
+  for (; singles > 0; --singles, x += kParts, tap += kStep) sums.template Add<1>(x, taps + tap);
   ORBS_UNROLL
   for (int v = 0; v < kVectors; ++v) y[v] = sums.Output(v);
 }
