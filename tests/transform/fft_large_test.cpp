@@ -31,7 +31,7 @@ TEST_P(FftLargeTest, IsTheTransformWhereItIsCutIntoRowsAndColumns) {
 
 // Each array of a split pair may be source and result by itself.
 TEST_P(FftLargeTest, OneArrayOfASplitPairCanStayInPlace) {
-  for (const int order : {6, 12, kRunsLarge ? 19 : 16}) {
+  for (const int order : {6, 12, kThorough ? 19 : 16}) {
     const Signal<Orb32f> x = RandomSignal<Orb32f>(size_t{1} << order, 2);
     const TestPlan plan(fft, kC_32f, order);
     CallWork work(plan, true);
