@@ -249,7 +249,7 @@ TEST_P(GoertzelTest, LongBlocksKeepFrequencyAndAmplitude) {
   ASSERT_EQ(legacy90orbsGoertzTwo_32fc(tone.data(), kLength, result, f), StatusOk);
   EXPECT_NEAR(result[0].re / kLength, 1, 2e-6);
   EXPECT_NEAR(result[0].im / kLength, 0, 2e-6);
-  EXPECT_NEAR(result[1].re / kLength, 0, 2e-6);
+  EXPECT_NEAR(result[1].re / kLength, 0, 2e-6 + 1.0 / kLength);  // what leaks from the other tone
 }
 
 TEST_P(GoertzelTest, NotANumberPassesTheTestOfFrequencies) {
