@@ -57,8 +57,8 @@ function(orbs_add_library name definitions)
   add_library(${name} SHARED ${ARGN})
   add_dependencies(${name} ${name}_map)
   set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map})
-  # as-needed drops the C++ runtime: the library uses none of it.
-  target_link_options(${name} PRIVATE
+  # as-needed drops the C++ runtime: the library uses none of it. 64-bit divisions on i386 come from libgcc.
+  target_link_options(${name} PRIVATE -static-libgcc
       -Wl,--version-script=${map} -Wl,--no-undefined -Wl,--as-needed -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
   target_link_libraries(${name} PRIVATE m)
   target_include_directories(${name} PUBLIC
