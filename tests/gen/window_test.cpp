@@ -153,7 +153,7 @@ TEST_P(WindowTest, BlackmanOfPxIsExactInFixedPoint) {
       const double s = std::sqrt(1 - c * c);
       const auto cQ = static_cast<Orb64s>(c * 1073741824);
       const auto sQ = static_cast<Orb64s>(s * 1073741824);
-      const Orb64s a = (Orb64s{alphaQ15} + 32768) << 14;
+      const Orb64s a = (Orb64s{alphaQ15} + 32768) * 16384;
       const Orb64s b = Orb64s{alphaQ15} * 32768;
       Orb64s u = 1 << 30;
       Orb64s v = 0;
