@@ -13,6 +13,7 @@
 
 #include "fir/state.h"
 #include "frame/blocks.h"
+#include "frame/round_scaled.h"
 #include "frame/scaling.h"
 #include "frame/simd.h"
 #include "frame/toolkit.h"
@@ -34,19 +35,7 @@ inline void Deliver(const Orb64f* sums, Orb64f* dst, Orb32s n, Orb32s) { VecCopy
 inline void Deliver(const Orb64f* sums, Orb16s* dst, Orb32s n, Orb32s scaleFactor) {
   const Orb64f factor = InversePowerOfTwoModulo128(scaleFactor);
 #if ORBS_VECTOR
-  constexpr int kBlock = 2 * I32::kLanes;
-  const F64 scale = F64::All(factor);
-  const auto convert = [scale](Orb16s* to, const Orb64f* from) {
-    Orb32s rounded[kBlock];
-    ORBS_UNROLL
-    for (int i = 0; i < kBlock; i += F64::kLanes) {
-      // Of a NaN and a number, Max gives the second operand: a NaN ends at the lower bound.
-      const F64 y = Max(F64::Load(from + i) * scale, F64::All(-32768.0));
-      StoreRounded(rounded + i, Min(y, F64::All(32767.0)));
-    }
-    StorePacked(to, I32::Load(rounded), I32::Load(rounded + I32::kLanes));
-  };
-  ForBlocks<kBlock>(static_cast<size_t>(n), convert, dst, sums);
+  RoundTimes<RoundNear>(sums, dst, static_cast<size_t>(n), factor);
 #else
   for (Orb32s i = 0; i < n; ++i) dst[i] = FloatHalfAway<Orb16s>(sums[i] * factor);
 #endif
@@ -63,48 +52,10 @@ inline void DeliverDirect(const Orb64f* sums, Orb32f* dst, Orb32s n, Orb32s) {
   ForBlocks<F32::kLanes>(static_cast<size_t>(n), convert, dst, sums);
 }
 
-// sum * factor, limited to what Integer holds. Of a NaN and a number, Max gives the second operand: a NaN
-// ends at the lower bound.
-template <class Integer, class V>
-ORBS_INLINE V ScaledAndLimited(V sum, V factor) {
-  using Lane = typename V::Lane;
-  constexpr auto kMin = static_cast<Lane>(std::numeric_limits<Integer>::min());
-  constexpr auto kMax = static_cast<Lane>(std::numeric_limits<Integer>::max());
-  return Min(Max(sum * factor, V::All(kMin)), V::All(kMax));
-}
-
-inline void DeliverDirect(const Orb32f* sums, Orb16s* dst, Orb32s n, Orb32s scaleFactor) {
-  const F32 factor = F32::All(InversePowerOfTwoModulo128(scaleFactor));
-  const auto rounded = [factor](const Orb32f* from) {
-    return RoundHalfAwayToInt(ScaledAndLimited<Orb16s>(F32::Load(from), factor));
-  };
-  const auto convert = [rounded](Orb16s* to, const Orb32f* from) {
-    StorePacked(to, rounded(from), rounded(from + I32::kLanes));
-  };
-  ForBlocks<2 * I32::kLanes>(static_cast<size_t>(n), convert, dst, sums);
-}
-
-template <class Integer>
-ORBS_INLINE void StoreHalfAway(Orb32s* to, const Orb64f* from, F64 factor) {
-  StoreTruncated(to, AwayFromZeroByHalf(ScaledAndLimited<Integer>(F64::Load(from), factor)));
-}
-
-inline void DeliverDirect(const Orb64f* sums, Orb32s* dst, Orb32s n, Orb32s scaleFactor) {
-  const F64 factor = F64::All(InversePowerOfTwoModulo128(scaleFactor));
-  const auto convert = [factor](Orb32s* to, const Orb64f* from) { StoreHalfAway<Orb32s>(to, from, factor); };
-  ForBlocks<F64::kLanes>(static_cast<size_t>(n), convert, dst, sums);
-}
-
-inline void DeliverDirect(const Orb64f* sums, Orb16s* dst, Orb32s n, Orb32s scaleFactor) {
-  constexpr int kBlock = 2 * I32::kLanes;
-  const F64 factor = F64::All(InversePowerOfTwoModulo128(scaleFactor));
-  const auto convert = [factor](Orb16s* to, const Orb64f* from) {
-    Orb32s rounded[kBlock];
-    ORBS_UNROLL
-    for (int i = 0; i < kBlock; i += F64::kLanes) StoreHalfAway<Orb16s>(rounded + i, from + i, factor);
-    StorePacked(to, I32::Load(rounded), I32::Load(rounded + I32::kLanes));
-  };
-  ForBlocks<kBlock>(static_cast<size_t>(n), convert, dst, sums);
+template <class Sum, class Integer>
+void DeliverDirect(const Sum* sums, Integer* dst, Orb32s n, Orb32s scaleFactor) {
+  const Sum factor = InversePowerOfTwoModulo128(scaleFactor);
+  RoundTimes<RoundHalfAway>(sums, dst, static_cast<size_t>(n), factor);
 }
 
 #endif

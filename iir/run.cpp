@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "frame/blocks.h"
+#include "frame/round_scaled.h"
 #include "frame/sliding_products.h"
 #include "frame/toolkit.h"
 #include "iir/lane_cascade.h"
@@ -15,21 +15,6 @@ namespace orbs::ORBS_VARIANT {
 namespace {
 
 #if ORBS_VECTOR
-
-// y * factor, clamped, to the nearest integer with ties to even. Of a NaN and a number Max gives the second
-// operand: a NaN ends at the lower bound.
-void DeliverPiece(const Orb32f* y, Orb16s* dst, Orb32s parts, Orb32f factor) {
-  const F32 scale = F32::All(factor);
-  const auto rounded = [scale](const Orb32f* from) {
-    return RoundToInt(Min(Max(F32::Load(from) * scale, F32::All(-32768.0f)), F32::All(32767.0f)));
-  };
-  ForBlocks<2 * F32::kLanes>(
-      static_cast<size_t>(parts),
-      [rounded](Orb16s* to, const Orb32f* from) {
-        StorePacked(to, rounded(from), rounded(from + F32::kLanes));
-      },
-      dst, y);
-}
 
 // ---- Arbitrary order ----
 
@@ -149,7 +134,7 @@ void RunPiece(IirView<Kind> view, const typename Kind::Data* src, typename Kind:
   } else {
     results = FilterPiece(view, count);
   }
-  DeliverPiece(Parts(results), Parts(dst), parts, factor);
+  RoundTimes<RoundNear>(Parts(results), Parts(dst), static_cast<size_t>(parts), factor);
 }
 
 #endif

@@ -1,6 +1,7 @@
 // Conversions with a scale factor.
 #include "frame/blocks.h"
 #include "frame/checks.h"
+#include "frame/round_scaled.h"
 #include "frame/scaling.h"
 #include "frame/simd.h"
 #include "frame/toolkit.h"
@@ -11,59 +12,6 @@ namespace {
 // ---- Floating point to integers: scaled, clamped, rounded ----
 
 #if ORBS_VECTOR
-
-// A vector of either float type rounded to 32-bit integers.
-template <Orb32s kMode>
-ORBS_INLINE I32 RoundToInts(F32 y) {
-  if constexpr (kMode == RoundNear) return RoundToInt(y);
-  if constexpr (kMode == RoundZero) return TruncateToInt(y);
-  return RoundHalfAwayToInt(y);
-}
-
-// The conversions give -2^31 for whatever does not fit 32 bits, NaN included. Below the range that is the
-// bound already; so only values above it need care.
-
-template <Orb32s kMode, class Scale>
-void RoundScaled(const Orb32f* src, Orb16s* dst, size_t n, Scale scale) {
-  ForBlocks<I16::kLanes>(
-      n,
-      [scale](Orb16s* d, const Orb32f* s) {
-        PackFrom([scale, s](int i) {
-          return RoundToInts<kMode>(Min(F32::All(32767), scale(F32::Load(s + i))));
-        }).Store(d);
-      },
-      dst, src);
-}
-
-template <Orb32s kMode, class Scale>
-void RoundScaled(const Orb32f* src, Orb32s* dst, size_t n, Scale scale) {
-  ForBlocks<F32::kLanes>(
-      n,
-      [scale](Orb32s* d, const Orb32f* s) {
-        const F32 y = scale(F32::Load(s));
-        // 2^31-1 has no binary32 of its own: it is the complement of -2^31.
-        const I32 beyond = AsInt(LessEqual(F32::All(2147483648.0f), y));
-        (RoundToInts<kMode>(y) ^ beyond).Store(d);
-      },
-      dst, src);
-}
-
-template <Orb32s kMode, class Scale>
-void RoundScaled(const Orb64f* src, Orb32s* dst, size_t n, Scale scale) {
-  ForBlocks<F64::kLanes>(
-      n,
-      [scale](Orb32s* d, const Orb64f* s) {
-        const F64 y = Min(F64::All(2147483647.0), scale(F64::Load(s)));
-        if constexpr (kMode == RoundNear) {
-          StoreRounded(d, y);
-        } else if constexpr (kMode == RoundZero) {
-          StoreTruncated(d, y);
-        } else {
-          StoreTruncated(d, AwayFromZeroByHalf(y));
-        }
-      },
-      dst, src);
-}
 
 template <Orb32s kMode, class Source, class Result>
 void ScaleToInts(const Source* src, Result* dst, size_t n, Orb32s s) {
