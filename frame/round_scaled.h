@@ -34,17 +34,22 @@ void RoundScaled(const Orb32f* src, Orb16s* dst, size_t n, Scale scale) {
       dst, src);
 }
 
+// One vector of binary32, rounded, saturated and stored.
+template <Orb32s kMode>
+ORBS_INLINE void StoreSaturated(Orb16s* to, F32 y) {
+  StorePacked(to, RoundToInts<kMode>(Min(F32::All(32767), y)));
+}
+template <Orb32s kMode>
+ORBS_INLINE void StoreSaturated(Orb32s* to, F32 y) {
+  // 2^31-1 has no binary32 of its own: it is the complement of -2^31.
+  const I32 beyond = AsInt(LessEqual(F32::All(2147483648.0f), y));
+  (RoundToInts<kMode>(y) ^ beyond).Store(to);
+}
+
 template <Orb32s kMode, class Scale>
 void RoundScaled(const Orb32f* src, Orb32s* dst, size_t n, Scale scale) {
   ForBlocks<F32::kLanes>(
-      n,
-      [scale](Orb32s* d, const Orb32f* s) {
-        const F32 y = scale(F32::Load(s));
-        // 2^31-1 has no binary32 of its own: it is the complement of -2^31.
-        const I32 beyond = AsInt(LessEqual(F32::All(2147483648.0f), y));
-        (RoundToInts<kMode>(y) ^ beyond).Store(d);
-      },
-      dst, src);
+      n, [scale](Orb32s* d, const Orb32f* s) { StoreSaturated<kMode>(d, scale(F32::Load(s))); }, dst, src);
 }
 
 // A vector of binary64, rounded and stored as integers of 32 bits.
@@ -59,14 +64,24 @@ ORBS_INLINE void StoreAsInts(Orb32s* to, F64 y) {
   }
 }
 
+// The same, saturated.
+template <Orb32s kMode>
+ORBS_INLINE void StoreSaturated(Orb32s* to, F64 y) {
+  StoreAsInts<kMode>(to, Min(F64::All(2147483647.0), y));
+}
+
+// A vector of pairs, rounded to nearest, saturated and put into two arrays.
+ORBS_INLINE void StoreSaturatedPairs(Orb16s* re, Orb16s* im, F32 y) {
+  StorePackedPairs(re, im, RoundToInt(Min(F32::All(32767), y)));
+}
+ORBS_INLINE void StoreSaturatedPairs(Orb32s* re, Orb32s* im, F64 y) {
+  StoreRoundedPairs(re, im, Min(F64::All(2147483647.0), y));
+}
+
 template <Orb32s kMode, class Scale>
 void RoundScaled(const Orb64f* src, Orb32s* dst, size_t n, Scale scale) {
   ForBlocks<F64::kLanes>(
-      n,
-      [scale](Orb32s* d, const Orb64f* s) {
-        StoreAsInts<kMode>(d, Min(F64::All(2147483647.0), scale(F64::Load(s))));
-      },
-      dst, src);
+      n, [scale](Orb32s* d, const Orb64f* s) { StoreSaturated<kMode>(d, scale(F64::Load(s))); }, dst, src);
 }
 
 template <Orb32s kMode, class Scale>

@@ -81,8 +81,6 @@ void RealCodelet(const T* src, T* dst, [[maybe_unused]] T scale) {
 }
 
 #if ORBS_VECTOR
-inline constexpr int kFirstVectorCodelet = 4;  // 16 points are the first that fill vectors
-
 template <bool kForward, bool kScaled, int order, template <class> class Data, class T>
 void VectorCodelet(Data<const T> src, Data<T> dst, T scale) {
   RunVectorCodelet<order, kForward>(src, dst, kScaled ? scale : T{1});

@@ -1,12 +1,14 @@
 // The complex integer transforms: checks, choice of path, both paths.
 #include "frame/checks.h"
 #include "frame/exports.h"
+#include "transform/fft_codelets.h"
 #include "transform/fft_integer_convert.h"
 #include "transform/fft_integer_fixed.h"
 #include "transform/fft_integer_plan.h"
 #include "transform/work_buffer.h"
 #if ORBS_VECTOR
-#include "frame/simd.h"
+#include "transform/fft_between.h"
+#include "transform/fft_integer_data.h"
 #endif
 
 namespace orbs::ORBS_VARIANT {
@@ -32,6 +34,13 @@ template <bool kForward>
 ORBS_INLINE void TransformInPlace(Orb64f* re, Orb64f* im, const FFTSpec_C_64f* plan, void* work) {
   (kForward ? FFTFwd_CToC_64f : FFTInv_CToC_64f)(re, im, re, im, plan, work);
 }
+// Parts with an interleaved plan (s8) come here only where codelets need nothing of it but the scale.
+template <bool kForward>
+ORBS_INLINE void TransformInPlace(Orb64f* re, Orb64f* im, const FFTSpec_C_64fc* plan, void*) {
+  using Codelets = ComplexCodelets<kForward, Split, Orb64f>;
+  const bool scaled = (kForward ? plan->scaleFwd : plan->scaleInv) != 0;
+  (scaled ? Codelets::scaled : Codelets::plain)[plan->order]({re, im}, {re, im}, plan->scale);
+}
 
 // ---- The callers' data, and the floating-point path ----
 
@@ -52,14 +61,16 @@ struct Parts {
 };
 
 template <bool kForward, class T, class Plan>
-void TransformFloat(Pairs<T> x, Orb32s n, Orb32s scaleFactor, const Plan* plan, typename Plan::Real* data) {
+void TransformByConversion(Pairs<T> x, Orb32s n, Orb32s scaleFactor, const Plan* plan,
+                           typename Plan::Real* data) {
   Widen(x.src, data, 2 * n);
   TransformInPlace<kForward>(data, plan, data + 2 * Index{n});
   Narrow(data, x.dst, 2 * n, scaleFactor);
 }
 
-template <bool kForward, class T, class Plan, std::enable_if_t<Plan::kForm == FftForm::split, int> = 0>
-void TransformFloat(Parts<T> x, Orb32s n, Orb32s scaleFactor, const Plan* plan, typename Plan::Real* data) {
+template <bool kForward, class T, class Plan>
+void TransformByConversion(Parts<T> x, Orb32s n, Orb32s scaleFactor, const Plan* plan,
+                           typename Plan::Real* data) {
   typename Plan::Real* im = data + n;
   Widen(x.srcRe, data, n);
   Widen(x.srcIm, im, n);
@@ -70,28 +81,39 @@ void TransformFloat(Parts<T> x, Orb32s n, Orb32s scaleFactor, const Plan* plan, 
 
 #if ORBS_VECTOR
 
-// Parts by an interleaved plan, in chunks that stay in the first-level cache.
-template <bool kForward>
-void TransformFloat(Parts<Orb32s> x, Orb32s n, Orb32s scaleFactor, const FFTSpec_C_64fc* plan, Orb64f* data) {
-  constexpr Orb32s kChunk = 256;
-  Orb64f re[kChunk];
-  Orb64f im[kChunk];
-  const Orb32s count = n < kChunk ? n : kChunk;  // both are powers of 2
-  for (Orb32s i = 0; i < n; i += count) {
-    Widen(x.srcRe + i, re, count);
-    Widen(x.srcIm + i, im, count);
-    for (Index k = 0; k < count; ++k) {
-      F64x2 pair;
-      LoadPairs(re + k, im + k, &pair);
-      pair.Store(data + 2 * (i + k));
-    }
+template <class T, class Int>
+ORBS_INLINE IntegerPairs<T, Int> SourceOf(Pairs<Int> x) {
+  return {x.src};
+}
+template <class T, class Int>
+ORBS_INLINE IntegerParts<T, Int> SourceOf(Parts<Int> x) {
+  return {x.srcRe, x.srcIm};
+}
+template <class T, class Int>
+ORBS_INLINE RoundedPairs<T, Int> ResultOf(Pairs<Int> x, Orb32s scaleFactor) {
+  return {x.dst, VectorFactor<T>(scaleFactor)};
+}
+template <class T, class Int>
+ORBS_INLINE RoundedParts<T, Int> ResultOf(Parts<Int> x, Orb32s scaleFactor) {
+  return {x.dstRe, x.dstIm, VectorFactor<T>(scaleFactor)};
+}
+
+template <bool kForward, class Data, class Plan>
+void TransformFloat(Data x, Orb32s n, Orb32s scaleFactor, const Plan* plan, typename Plan::Real* data) {
+  using T = typename Plan::Real;
+  if (plan->order < kFirstVectorCodelet) {
+    TransformByConversion<kForward>(x, n, scaleFactor, plan, data);
+  } else {
+    TransformBetween<kForward>(*plan, plan->order, SourceOf<T>(x), ResultOf<T>(x, scaleFactor), data,
+                               data + 2 * Index{n});
   }
-  TransformInPlace<kForward>(data, plan, data + 2 * Index{n});
-  for (Orb32s i = 0; i < n; i += count) {
-    for (Index k = 0; k < count; ++k) StorePairs(re + k, im + k, F64x2::Load(data + 2 * (i + k)));
-    Narrow(re, x.dstRe + i, count, scaleFactor);
-    Narrow(im, x.dstIm + i, count, scaleFactor);
-  }
+}
+
+#else
+
+template <bool kForward, class Data, class Plan>
+void TransformFloat(Data x, Orb32s n, Orb32s scaleFactor, const Plan* plan, typename Plan::Real* data) {
+  TransformByConversion<kForward>(x, n, scaleFactor, plan, data);
 }
 
 #endif

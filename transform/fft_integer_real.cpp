@@ -6,6 +6,11 @@
 #include "transform/fft_integer_plan.h"
 #include "transform/spectrum_layouts.h"
 #include "transform/work_buffer.h"
+#if ORBS_VECTOR
+#include "transform/fft_between.h"
+#include "transform/fft_integer_data.h"
+#include "transform/fft_real_split_vector.h"
+#endif
 
 namespace orbs::ORBS_VARIANT {
 namespace {
@@ -40,8 +45,8 @@ ORBS_INLINE void InverseInPlace(Orb64f* x, const FFTSpec_R_64f* plan, void* work
 
 // A spectrum of 32-bit integers becomes CCS only after the conversion.
 template <SpectrumLayout layout, class Source, class Result, class Plan>
-void ForwardFloat(const Source* src, Result* dst, Orb32s n, Orb32s scaleFactor, const Plan* plan,
-                  typename Plan::Real* data) {
+void ForwardByConversion(const Source* src, Result* dst, Orb32s n, Orb32s scaleFactor, const Plan* plan,
+                         typename Plan::Real* data) {
   constexpr bool kArrangesIntegers = layout == SpectrumLayout::ccs && sizeof(Result) == 4;
   constexpr SpectrumLayout kNested = kArrangesIntegers ? SpectrumLayout::perm : layout;
   const Orb32s count = kNested == SpectrumLayout::ccs ? n + 2 : n;
@@ -52,13 +57,84 @@ void ForwardFloat(const Source* src, Result* dst, Orb32s n, Orb32s scaleFactor, 
 }
 
 template <SpectrumLayout layout, class Source, class Result, class Plan>
-void InverseFloat(const Source* src, Result* dst, Orb32s n, Orb32s scaleFactor, const Plan* plan,
-                  typename Plan::Real* data) {
+void InverseByConversion(const Source* src, Result* dst, Orb32s n, Orb32s scaleFactor, const Plan* plan,
+                         typename Plan::Real* data) {
   constexpr bool kFromCcs = layout == SpectrumLayout::ccs;
   Widen(src, data, kFromCcs ? n + 1 : n);  // the last of CCS is not read
   InverseInPlace<layout>(data, plan, data + (kFromCcs ? n + 2 : n));
   Narrow(data, dst, n, scaleFactor);
 }
+
+#if ORBS_VECTOR
+
+// Whether the N/2 points are enough for the vector transforms.
+template <class Plan>
+ORBS_INLINE bool IsForVectors(const Plan* plan) {
+  return plan->order > kFirstVectorCodelet &&
+         plan->order > Pick<typename Plan::Real>(kFftTuning.realCodeletCeiling);
+}
+
+// The first pass reads the integers, the split writes them.
+template <SpectrumLayout layout, class Source, class Result, class Plan>
+void ForwardFloat(const Source* src, Result* dst, Orb32s n, Orb32s scaleFactor, const Plan* plan,
+                  typename Plan::Real* data) {
+  using T = typename Plan::Real;
+  if (!IsForVectors(plan)) {
+    ForwardByConversion<layout>(src, dst, n, scaleFactor, plan, data);
+    return;
+  }
+  TransformBetween<true>(*plan, plan->order - 1, IntegerPairs<T, Source>{src}, Interleaved<T>{data}, data,
+                         data + n);
+  // The real points and the middle one, which the split leaves out.
+  const T points[4] = {data[0] + data[1], data[0] - data[1], data[n / 2], -data[n / 2 + 1]};
+  Result rounded[4];
+  Narrow(points, rounded, 4, scaleFactor);
+  Result* const pairs = dst + kFirstPairAt<layout>;
+  SplitPairsForward(Interleaved<T>{data + 2}, RoundedPairs<T, Result>{pairs, VectorFactor<T>(scaleFactor)},
+                    plan->order, plan->tables.realFwdTw.In(plan));
+  PutRealPoints<layout, Result>(dst, n, {rounded[0], rounded[1]});
+  pairs[n / 2 - 2] = rounded[2];
+  pairs[n / 2 - 1] = rounded[3];
+}
+
+// The split reads the integers, the last pass writes them.
+template <SpectrumLayout layout, class Source, class Result, class Plan>
+void InverseFloat(const Source* src, Result* dst, Orb32s n, Orb32s scaleFactor, const Plan* plan,
+                  typename Plan::Real* data) {
+  using T = typename Plan::Real;
+  if (!IsForVectors(plan)) {
+    InverseByConversion<layout>(src, dst, n, scaleFactor, plan, data);
+    return;
+  }
+  const RealPoints<Source> ends = GetRealPoints<layout>(src, n);
+  const Source* const pairs = src + kFirstPairAt<layout>;
+  SplitPairsInverse(IntegerPairs<T, Source>{pairs}, Interleaved<T>{data + 2}, plan->order,
+                    plan->tables.realInvTw.In(plan));
+  const auto first = static_cast<T>(ends.first);
+  const auto last = static_cast<T>(ends.last);
+  data[0] = first + last;
+  data[1] = first - last;
+  data[n / 2] = 2 * static_cast<T>(pairs[n / 2 - 2]);
+  data[n / 2 + 1] = -2 * static_cast<T>(pairs[n / 2 - 1]);
+  T* const work = data + n;
+  const bool onePass = plan->order - 1 <= Pick<T>(kFftTuning.onePassCeiling);
+  TransformBetween<false>(*plan, plan->order - 1, Interleaved<const T>{data},
+                          RoundedPairs<T, Result>{dst, VectorFactor<T>(scaleFactor)}, onePass ? work : data,
+                          work);
+}
+
+#else
+
+template <SpectrumLayout layout, class... Arguments>
+ORBS_INLINE void ForwardFloat(Arguments... arguments) {
+  ForwardByConversion<layout>(arguments...);
+}
+template <SpectrumLayout layout, class... Arguments>
+ORBS_INLINE void InverseFloat(Arguments... arguments) {
+  InverseByConversion<layout>(arguments...);
+}
+
+#endif
 
 // ---- The fixed-point path ----
 //

@@ -24,41 +24,33 @@ ORBS_INLINE void TransformHalf(const FftPlan<T>& plan, const T* src, T* dst, voi
   }
 }
 
-// The first pair: the points 0 and N/2 of one spectrum are the sum and difference of those of the other.
-template <class T>
-ORBS_INLINE void SumAndDifference(Wide<T> a, Wide<T> b, T* pair) {
-  pair[0] = static_cast<T>(a + b);
-  pair[1] = static_cast<T>(a - b);
-}
-
 // Needs no work buffer, and has none of the tables.
 template <class T>
 ORBS_INLINE bool IsRealCodelet(const FftPlan<T>& plan) {
   return plan.order <= Pick<T>(kFftTuning.realCodeletCeiling);
 }
 
-template <class T>
-OrbStatus ForwardToPerm(const FftPlan<T>& plan, const T* src, T* dst, void* work) {
+template <SpectrumLayout layout, class T>
+OrbStatus ForwardTo(const FftPlan<T>& plan, const T* src, T* dst, void* work) {
   if (IsRealCodelet(plan)) {
     using Codelets = RealCodelets<true, T>;
     (plan.scaleFwd != 0 ? Codelets::scaled : Codelets::plain)[plan.order](src, dst, plan.scale);
+    ArrangeFromPerm<layout>(dst, Index{1} << plan.order);
     return StatusOk;
   }
   const WorkBuffer buffer(plan.workSize, work);
   if (buffer.Failed()) return StatusMemAlloc;
   TransformHalf<true>(plan, src, dst, buffer.Data());
-  SumAndDifference(dst[0], dst[1], dst);
-  FFTRealSplitFwd(dst, plan.order, plan.tables.realFwdTw.In(&plan));
+  FFTRealSplitFwd<layout>(dst, plan.order, plan.tables.realFwdTw.In(&plan));
   return StatusOk;
 }
 
 template <SpectrumLayout layout, class T>
 OrbStatus InverseFrom(const FftPlan<T>& plan, const T* src, T* dst, void* work) {
-  const Index n = Index{1} << plan.order;
   if (IsRealCodelet(plan)) {
     const T* perm = src;
     if constexpr (layout != SpectrumLayout::perm) {
-      ArrangeToPerm<layout>(src, dst, n);
+      ArrangeToPerm<layout>(src, dst, Index{1} << plan.order);
       perm = dst;
     }
     using Codelets = RealCodelets<false, T>;
@@ -67,13 +59,7 @@ OrbStatus InverseFrom(const FftPlan<T>& plan, const T* src, T* dst, void* work) 
   }
   const WorkBuffer buffer(plan.workSize, work);
   if (buffer.Failed()) return StatusMemAlloc;
-  // Pack is the one layout whose pairs do not lie where the split reads them.
-  if constexpr (layout == SpectrumLayout::pack) ArrangeToPerm<layout>(src, dst, n);
-  const T* spectrum = layout == SpectrumLayout::pack ? dst : src;
-  const T a = spectrum[0];
-  const T b = spectrum[layout == SpectrumLayout::ccs ? n : 1];
-  FFTRealSplitInv(spectrum, dst, plan.order, plan.tables.realInvTw.In(&plan));
-  SumAndDifference(a, b, dst);
+  FFTRealSplitInv<layout>(src, dst, plan.order, plan.tables.realInvTw.In(&plan));
   TransformHalf<false>(plan, dst, dst, buffer.Data());
   return StatusOk;
 }
@@ -81,9 +67,7 @@ OrbStatus InverseFrom(const FftPlan<T>& plan, const T* src, T* dst, void* work) 
 template <SpectrumLayout layout, class Plan, class T>
 ORBS_INLINE OrbStatus Forward(const T* src, T* dst, const Plan* plan, void* work) {
   ORBS_RETURN_IF_BAD(CheckPlan(plan, Plan::kId, src, dst));
-  ORBS_RETURN_IF_BAD(ForwardToPerm<T>(*plan, src, dst, work));
-  ArrangeFromPerm<layout>(dst, Index{1} << plan->order);
-  return StatusOk;
+  return ForwardTo<layout, T>(*plan, src, dst, work);
 }
 
 template <SpectrumLayout layout, class Plan, class T>

@@ -1,5 +1,6 @@
 // The real split over a whole spectrum (the step is told in fft_real_pair.h): for k = 1 to N/4 - 1 the pairs
-// k and m = N/2 - k, and the middle pair. The first pair, k = 0, is the caller's.
+// k and m = N/2 - k, the middle pair, and the first: the points 0 and N/2 of one spectrum are the sum and the
+// difference of those of the other.
 #ifndef ORBS_TRANSFORM_FFT_REAL_SPLIT_H
 #define ORBS_TRANSFORM_FFT_REAL_SPLIT_H
 
@@ -12,11 +13,17 @@
 #include "transform/fft_data.h"
 #include "transform/fft_real_pair.h"
 #include "transform/fft_tables.h"
+#include "transform/spectrum_layouts.h"
 
 namespace orbs::ORBS_VARIANT {
 
-// In place on 2^order reals, order >= 3.
 template <class T>
+ORBS_INLINE Value<T> SumAndDifference(Value<T> pair) {
+  return {pair.re + pair.im, pair.re - pair.im};
+}
+
+// In place on 2^order reals, order >= 3.
+template <SpectrumLayout layout, class T>
 void FFTRealSplitFwd(T* data, int order, const T* table) {
   const Interleaved<T> z = {data};
   const Interleaved<const T> twiddles = {table};
@@ -35,15 +42,24 @@ void FFTRealSplitFwd(T* data, int order, const T* table) {
     Put(z, half - k, b);
   }
   data[half + 1] = -data[half + 1];
+  Put(z, 0, SumAndDifference(Get(z, 0)));
+  ArrangeFromPerm<layout>(data, 2 * half);
 }
 
-// From the pairs of a spectrum to dst, which may be src.
-template <class T>
+// To dst, which may be src.
+template <SpectrumLayout layout, class T>
 void FFTRealSplitInv(const T* src, T* dst, int order, const T* table) {
+  const Index n = Index{1} << order;
+  const RealPoints<T> ends = GetRealPoints<layout>(src, n);
+  // Pack is the one layout whose pairs do not lie where they are wanted.
+  if constexpr (layout == SpectrumLayout::pack) {
+    ArrangeToPerm<layout>(src, dst, n);
+    src = dst;
+  }
   const Interleaved<const T> x = {src};
   const Interleaved<T> z = {dst};
   const Interleaved<const T> twiddles = {table};
-  const Index half = (Index{1} << order) / 2;
+  const Index half = n / 2;
   const Index fine = kRealFineEntries<T>;
   const bool twoLevels = HasTwoRealLevels<T>(order);
   for (Index k = 1; k < half / 2; ++k) {
@@ -56,6 +72,7 @@ void FFTRealSplitInv(const T* src, T* dst, int order, const T* table) {
   }
   dst[half] = 2 * src[half];
   dst[half + 1] = -2 * src[half + 1];
+  Put(z, 0, SumAndDifference<T>({ends.first, ends.last}));
 }
 
 }  // namespace orbs::ORBS_VARIANT

@@ -10,9 +10,10 @@
 #ifndef ORBS_TRANSFORM_FFT_REAL_SPLIT_VECTOR_H
 #define ORBS_TRANSFORM_FFT_REAL_SPLIT_VECTOR_H
 
-#include "frame/simd.h"
 #include "transform/fft_data.h"
 #include "transform/fft_tables.h"
+#include "transform/fft_vector_passes.h"
+#include "transform/spectrum_layouts.h"
 
 namespace orbs::ORBS_VARIANT {
 
@@ -48,64 +49,83 @@ ORBS_INLINE PairOfVectors<V> RealVectorInverse(V a, V b, V w) {
   return {p + t, Conjugate(p - t)};
 }
 
-// step(a, b, table entry) for k = 1 to N/4 and m = N/2 - k.
-template <class T, class Step>
-ORBS_INLINE void ForRealPairs(const T* src, T* dst, int order, const T* table, Step step) {
+// step(a, b, table entry) for k = 1 to N/4 and m = N/2 - k. src and dst are data from point 1 on. dst may be
+// src, also when its pairs lie one real further along, as in Pack: each pair of vectors is loaded before the
+// one before it is stored.
+template <class T, class Source, class Result, class Step>
+ORBS_INLINE void ForRealPairs(Source src, Result dst, int order, const T* table, Step step) {
   using V = VectorOf<T>;
-  constexpr Index kPairs = V::kLanes / 2;
-  const Index n = Index{1} << order;
-  const auto pass = [=](Index i, V entry) {  // the entries i on, which are k = i + 1 on
-    const Index front = 2 + 2 * i;
-    const Index back = n - V::kLanes - 2 * i;
-    const V a = V::Load(src + front);
-    const V b = ReversePairs(V::Load(src + back));
-    const PairOfVectors<V> result = step(a, b, entry);
-    result.k.Store(dst + front);
-    ReversePairs(result.m).Store(dst + back);
+  constexpr size_t kWidth = V::kLanes / 2;
+  const size_t entries = (size_t{1} << order) / 4;
+  const size_t back = 2 * entries - 1 - kWidth;
+  V a = LoadPoints(src, 0);
+  V b = LoadPoints(src, back);
+  const auto pass = [&](size_t i, V entry) {  // the entries i on, which are k = i + 1 on
+    const PairOfVectors<V> result = step(a, ReversePairs(b), entry);
+    a = LoadPoints(src, i + kWidth);
+    b = LoadPoints(src, back - i - kWidth);
+    StorePoints(dst, i, result.k);
+    StorePoints(dst, back - i, ReversePairs(result.m));
   };
-  const Index entries = n / 4;
   if (!HasTwoRealLevels<T>(order)) {
-    for (Index i = 0; i < entries; i += kPairs) pass(i, V::Load(table + 2 * i));
+    for (size_t i = 0; i < entries; i += kWidth) pass(i, V::Load(table + 2 * i));
     return;
   }
-  constexpr Index kFine = kRealFineEntries<T>;
-  const T* coarse = table + 2 * kFine;
-  for (Index i = 0; i < entries; i += kFine, coarse += 2) {
+  constexpr auto kFineStep = static_cast<size_t>(kRealFineEntries<T>);
+  const T* coarse = table + 2 * kFineStep;
+  for (size_t i = 0; i < entries; i += kFineStep, coarse += 2) {
     const V coarseRe = V::All(coarse[0]);
     const V coarseIm = V::All(coarse[1]);
-    for (Index j = 0; j < kFine; j += kPairs) {
+    for (size_t j = 0; j < kFineStep; j += kWidth) {
       const V fine = V::Load(table + 2 * j);
       pass(i + j, MulAddSub(coarseRe, fine, coarseIm * SwapPairs(fine)));
     }
   }
 }
 
-// In place on 2^order reals, order >= 5.
-template <class T>
-void FFTRealSplitFwd(T* data, int order, const T* table) {
+// The points 1 to N/2 - 1 of N = 2^order reals, order >= 5, but for the middle one.
+template <class T, class Source, class Result>
+ORBS_INLINE void SplitPairsForward(Source src, Result dst, int order, const T* table) {
   using V = VectorOf<T>;
-  const Index middle = (Index{1} << order) / 2;
-  const T re = data[middle];
-  const T im = data[middle + 1];
   if (HasTwoRealLevels<T>(order)) {
-    ForRealPairs(data, data, order, table, [](V a, V b, V w) { return RealVectorForwardByTwiddle(a, b, w); });
+    ForRealPairs(src, dst, order, table, [](V a, V b, V w) { return RealVectorForwardByTwiddle(a, b, w); });
   } else {
-    ForRealPairs(data, data, order, table, [](V a, V b, V entry) { return RealVectorForward(a, b, entry); });
+    ForRealPairs(src, dst, order, table, [](V a, V b, V entry) { return RealVectorForward(a, b, entry); });
   }
-  data[middle] = re;
-  data[middle + 1] = -im;
+}
+template <class T, class Source, class Result>
+ORBS_INLINE void SplitPairsInverse(Source src, Result dst, int order, const T* table) {
+  using V = VectorOf<T>;
+  ForRealPairs(src, dst, order, table, [](V a, V b, V w) { return RealVectorInverse(a, b, w); });
 }
 
-// From the pairs of a spectrum to dst, which may be src.
-template <class T>
+// In place.
+template <SpectrumLayout layout, class T>
+void FFTRealSplitFwd(T* data, int order, const T* table) {
+  const Index n = Index{1} << order;
+  const RealPoints<T> ends = {data[0] + data[1], data[0] - data[1]};
+  const T re = data[n / 2];
+  const T im = data[n / 2 + 1];
+  T* const pairs = data + kFirstPairAt<layout>;
+  SplitPairsForward(Interleaved<T>{data + 2}, Interleaved<T>{pairs}, order, table);
+  pairs[n / 2 - 2] = re;
+  pairs[n / 2 - 1] = -im;
+  PutRealPoints<layout>(data, n, ends);
+}
+
+// To dst, which may be src.
+template <SpectrumLayout layout, class T>
 void FFTRealSplitInv(const T* src, T* dst, int order, const T* table) {
-  using V = VectorOf<T>;
-  const Index middle = (Index{1} << order) / 2;
-  const T re = src[middle];
-  const T im = src[middle + 1];
-  ForRealPairs(src, dst, order, table, [](V a, V b, V w) { return RealVectorInverse(a, b, w); });
-  dst[middle] = 2 * re;
-  dst[middle + 1] = -2 * im;
+  const Index n = Index{1} << order;
+  const RealPoints<T> ends = GetRealPoints<layout>(src, n);
+  const T* const pairs = src + kFirstPairAt<layout>;
+  const T re = pairs[n / 2 - 2];
+  const T im = pairs[n / 2 - 1];
+  SplitPairsInverse(Interleaved<const T>{pairs}, Interleaved<T>{dst + 2}, order, table);
+  dst[n / 2] = 2 * re;
+  dst[n / 2 + 1] = -2 * im;
+  dst[0] = ends.first + ends.last;
+  dst[1] = ends.first - ends.last;
 }
 
 }  // namespace orbs::ORBS_VARIANT

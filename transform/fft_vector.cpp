@@ -72,31 +72,6 @@ void TransformInOnePass(const FftPlan<T>& plan, int order, Data<const T> src, Da
   }
 }
 
-// ---- Above the one-pass ceiling ----
-
-template <class T>
-constexpr int RowOrder(int order) {
-  return LargeRowOrder(order, Pick<T>(kFftTuning.onePassCeiling));
-}
-
-// The tables of all long passes, one behind the other in rising order of q.
-template <class T>
-int64_t AllLongTableReals(int order) {
-  int64_t reals = 0;
-  for (int row = RowOrder<T>(order); row < order; row += 3) reals += LongTableReals<T>(int64_t{1} << row);
-  return reals;
-}
-
-template <bool kForward, template <class> class Data, class T>
-void TransformLarge(const FftPlan<T>& plan, int order, Data<const T> src, Data<T> dst, T scale, T* work) {
-  const int rowOrder = RowOrder<T>(order);
-  const size_t n = size_t{1} << order;
-  const PassSteps<T> rows(rowOrder, plan.tables.coreTw.In(&plan));
-  LargeFirstPass<kForward>(src, dst, n, scale, work);
-  RunLongPasses<kForward>(dst, n, size_t{1} << rowOrder, rows, plan.tables.layerTw.In(&plan),
-                          AllLongTableReals<T>(order));
-}
-
 // ---- Tables ----
 
 // exp(-2 pi i index / circle) as the next pair.
@@ -131,7 +106,7 @@ void BuildPassTwiddles(int order, SineTable<T> sine, T* coreTw) {
 
 template <class T>
 void BuildLongTables(int order, SineTable<T> sine, T* table) {
-  for (int row = RowOrder<T>(order); row < order; row += 3) {
+  for (int row = LargeRowOrder<T>(order); row < order; row += 3) {
     const SineTable<T> circle = sine.Of(row + 3);
     const Index q = Index{1} << row;
     constexpr Index kFineStep = static_cast<Index>(kFine);
@@ -152,7 +127,7 @@ void VectorTransform(const FftPlan<T>& plan, int order, Data<const T> src, Data<
   if (order <= Pick<T>(kFftTuning.onePassCeiling)) {
     TransformInOnePass<kForward>(plan, order, src, dst, scale, space);
   } else {
-    TransformLarge<kForward>(plan, order, src, dst, scale, space);
+    RunLargeTransform<kForward>(plan, order, src, dst, dst, scale, space);
   }
 }
 
@@ -167,7 +142,7 @@ void BuildVectorTables(int order, SineTable<T> sine, Orb32s* bitRev, T* coreTw) 
 
 template <class T>
 void DescribeVectorLarge(int order, FftForm, FftLayout<T>* layout) {
-  const int64_t rowReals = int64_t{2} << RowOrder<T>(order);
+  const int64_t rowReals = int64_t{2} << LargeRowOrder<T>(order);
   layout->tables.coreTw = layout->plan.template Add<T>(rowReals, 64);
   layout->tables.layerTw = layout->plan.template Add<T>(AllLongTableReals<T>(order), 64);
   layout->workSize = kLargeWorkBytes<T>;
@@ -175,7 +150,7 @@ void DescribeVectorLarge(int order, FftForm, FftLayout<T>* layout) {
 
 template <class T>
 void BuildVectorLarge(int order, SineTable<T> sine, const FftLayout<T>&, FftPlan<T>* plan, void*) {
-  const int rowOrder = RowOrder<T>(order);
+  const int rowOrder = LargeRowOrder<T>(order);
   BuildPassTwiddles(rowOrder, sine.Of(rowOrder), plan->tables.coreTw.In(plan));
   BuildLongTables(order, sine, plan->tables.layerTw.In(plan));
 }

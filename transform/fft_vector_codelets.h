@@ -32,6 +32,8 @@ constexpr double Sine64(int k) {
   return quadrant < 2 ? magnitude : -magnitude;
 }
 
+inline constexpr int kFirstVectorCodelet = 4;  // 16 points are the first that fill vectors
+
 // The tables of BuildVectorTables.
 template <class T, int kOrder>
 struct VectorCodeletTables {
@@ -67,8 +69,8 @@ template <class T, int kOrder>
 inline constexpr VectorCodeletTables<T, kOrder> kVectorCodeletTables{};
 
 // dst may be src: the points in between stand in registers or on the stack.
-template <int kOrder, bool kForward, template <class> class Data, class T>
-ORBS_INLINE void RunVectorCodelet(Data<const T> src, Data<T> dst, T scale) {
+template <int kOrder, bool kForward, class Source, class Result, class T>
+ORBS_INLINE void RunVectorCodelet(Source src, Result dst, T scale) {
   using Tables = VectorCodeletTables<T, kOrder>;
   const Tables& tables = kVectorCodeletTables<T, kOrder>;
   alignas(64) T middle[2 * Tables::kPoints];

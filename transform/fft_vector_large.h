@@ -12,13 +12,16 @@
 #define ORBS_TRANSFORM_FFT_VECTOR_LARGE_H
 
 #include "frame/record.h"
+#include "transform/fft_plan.h"
 #include "transform/fft_vector_steps.h"
+#include "transform/tuning.h"
 
 namespace orbs::ORBS_VARIANT {
 
 // The order of the rows: what is left when the long passes take three levels each.
-constexpr int LargeRowOrder(int order, int onePassCeiling) {
-  return order - (order - onePassCeiling + 2) / 3 * 3;
+template <class T>
+constexpr int LargeRowOrder(int order) {
+  return order - (order - Pick<T>(kFftTuning.onePassCeiling) + 2) / 3 * 3;
 }
 
 // Entries of the fine level: seven factors each, 14 KB of binary32, which stay in the first-level cache.
@@ -32,9 +35,19 @@ constexpr int64_t LongTableReals(int64_t q) {
   return RoundUp(2 * 7 * (kFineStep + q / kFineStep), 64 / static_cast<int64_t>(sizeof(T)));
 }
 
-// One row: 8 blocks of q points become one block, in place.
-template <bool kForward, class Data, class T>
-void LongRowPass(Data data, size_t q, const T* table) {
+// The tables of all long passes, one behind the other in rising order of q.
+template <class T>
+int64_t AllLongTableReals(int order) {
+  int64_t reals = 0;
+  for (int row = LargeRowOrder<T>(order); row < order; row += 3) {
+    reals += LongTableReals<T>(int64_t{1} << row);
+  }
+  return reals;
+}
+
+// One row: 8 blocks of q points become one block.
+template <bool kForward, class Source, class Result, class T>
+void LongRowPass(Source src, Result dst, size_t q, const T* table) {
   using V = VectorOf<T>;
   const T* coarse = table + 2 * 7 * kFine;
   for (size_t start = 0; start < q; start += kFine) {
@@ -44,14 +57,14 @@ void LongRowPass(Data data, size_t q, const T* table) {
     const T* fine = table;
     for (size_t k = start; k < start + kFine; k += kPairs<T>) {
       V x[8];
-      x[0] = LoadPoints(data, k);
+      x[0] = LoadPoints(src, k);
       ORBS_UNROLL for (int m = 1; m < 8; ++m) {
         const V w = MulComplex(base[m - 1], V::Load(fine + (m - 1) * V::kLanes));
-        x[m] = Twiddle<kForward>(LoadPoints(data, k + kReversedDigit[8][m] * q), w);
+        x[m] = Twiddle<kForward>(LoadPoints(src, k + kReversedDigit[8][m] * q), w);
       }
       fine += 7 * V::kLanes;
       Butterfly<kForward>(x);
-      ORBS_UNROLL for (size_t m = 0; m < 8; ++m) StorePoints(data, k + m * q, x[m]);
+      ORBS_UNROLL for (size_t m = 0; m < 8; ++m) StorePoints(dst, k + m * q, x[m]);
     }
   }
 }
@@ -94,6 +107,10 @@ void WriteTile(Data dst, size_t n, size_t middle, const T* tile) {
   }
 }
 
+template <class Source, class Result>
+bool SameArray(Source, Result) {
+  return false;  // integers
+}
 template <class T>
 bool SameArray(Interleaved<const T> a, Interleaved<T> b) {
   return a.pairs == b.pairs;
@@ -104,8 +121,8 @@ bool SameArray(Split<const T> a, Split<T> b) {
   return a.re == b.re || a.im == b.im;
 }
 
-template <bool kForward, template <class> class Data, class T>
-void LargeFirstPass(Data<const T> src, Data<T> dst, size_t n, T scale, T* work) {
+template <bool kForward, class Source, class Result, class T>
+void LargeFirstPass(Source src, Result dst, size_t n, T scale, T* work) {
   const VectorOf<T> factor = VectorOf<T>::All(scale);
   const size_t tiles = n / kTilePoints;
   const bool inPlace = SameArray(src, dst);
@@ -129,21 +146,34 @@ void LargeFirstPass(Data<const T> src, Data<T> dst, size_t n, T scale, T* work) 
 
 // ---- The whole ----
 
-template <bool kForward, class Data, class T>
-void RunLongPasses(Data data, size_t n, size_t rowPoints, const PassSteps<T>& rows, const T* longTables,
-                   int64_t tableReals) {
-  if (n == rowPoints) {
-    RunPasses<kForward>(rows.steps, rows.count, data, n);
-    return;
-  }
-  // Depth first: an eighth at a time until it is a row. The tables stand in the order of q.
+// Depth first: an eighth at a time until it is a row. The tables stand in the order of q. The last pass goes
+// to dst, which may be data.
+template <bool kForward, class Data, class Result, class T>
+void RunLongPasses(Data data, Result dst, size_t n, const PassSteps<T>& rows, size_t rowPoints,
+                   const T* longTables, int64_t tableReals) {
   const size_t q = n / 8;
   const int64_t ownReals = LongTableReals<T>(static_cast<int64_t>(q));
   for (size_t block = 0; block < n; block += q) {
-    RunLongPasses<kForward>(data.At(static_cast<Index>(block)), q, rowPoints, rows, longTables,
-                            tableReals - ownReals);
+    const Data part = data.At(static_cast<Index>(block));
+    if (q == rowPoints) {
+      RunPasses<kForward>(rows.steps, rows.count, part, q);
+    } else {
+      RunLongPasses<kForward>(part, part, q, rows, rowPoints, longTables, tableReals - ownReals);
+    }
   }
-  LongRowPass<kForward>(data, q, longTables + tableReals - ownReals);
+  LongRowPass<kForward>(data, dst, q, longTables + tableReals - ownReals);
+}
+
+// By way of `middle`, which may be src or dst.
+template <bool kForward, class Source, class Data, class Result, class T>
+void RunLargeTransform(const FftPlan<T>& plan, int order, Source src, Data middle, Result dst, T scale,
+                       T* work) {
+  const int rowOrder = LargeRowOrder<T>(order);
+  const size_t n = size_t{1} << order;
+  const PassSteps<T> rows(rowOrder, plan.tables.coreTw.In(&plan));
+  LargeFirstPass<kForward>(src, middle, n, scale, work);
+  RunLongPasses<kForward>(middle, dst, n, rows, size_t{1} << rowOrder, plan.tables.layerTw.In(&plan),
+                          AllLongTableReals<T>(order));
 }
 
 }  // namespace orbs::ORBS_VARIANT

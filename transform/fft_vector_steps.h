@@ -70,10 +70,11 @@ void RunPasses(const PassStep<T>* steps, int count, Data data, size_t n) {
   RunPass<kForward>(last, data, n);
 }
 
-// The whole transform by way of `middle`, which may be dst but not src. The last pass goes to dst.
-template <bool kForward, template <class> class Data, class T>
-ORBS_INLINE void RunTransform(const PassSteps<T>& plan, const Orb32s* reversal, int order, Data<const T> src,
-                              Data<T> dst, T* middle, T scale) {
+// The whole transform by way of `middle`, which may be dst but not src. The last pass goes to dst. Source and
+// Result are any data that LoadPoints and StorePoints know.
+template <bool kForward, class Source, class Result, class T>
+ORBS_INLINE void RunTransform(const PassSteps<T>& plan, const Orb32s* reversal, int order, Source src,
+                              Result dst, T* middle, T scale) {
   const size_t n = size_t{1} << order;
   if (plan.firstBits == 2) {
     FirstPass<4, kForward>(src, middle, n, reversal, scale);

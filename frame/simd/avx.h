@@ -294,6 +294,10 @@ ORBS_INLINE U8x32 Pack(I16x16 a, I16x16 b) {
   return {_mm256_permute4x64_epi64(_mm256_packus_epi16(a.v, b.v), _MM_SHUFFLE(3, 1, 2, 0))};
 }
 ORBS_INLINE void StorePacked(Orb16s* p, I32x8 a, I32x8 b) { Pack(a, b).Store(p); }
+ORBS_INLINE I16x8 PackHalves(I32x8 a) {
+  return {_mm_packs_epi32(_mm256_castsi256_si128(a.v), _mm256_extracti128_si256(a.v, 1))};
+}
+ORBS_INLINE I32x8 Widen(I16x8 a) { return {_mm256_cvtepi16_epi32(a.v)}; }
 ORBS_INLINE void WidenInLanes(I16x16 a, I32x8* low, I32x8* high) {
   const __m256i zero = _mm256_setzero_si256();
   *low = {_mm256_unpacklo_epi16(a.v, zero)};
@@ -391,7 +395,9 @@ ORBS_INLINE I32x8 ShiftRightLogical(I32x8 a, int n) {
 }
 
 ORBS_INLINE __m256i JoinHalves(I32x8 a) { return _mm256_set_m128i(a.high.v, a.low.v); }
-ORBS_INLINE I32x8 SplitHalves(__m256i a) { return {{_mm256_castsi256_si128(a)}, {_mm256_extractf128_si256(a, 1)}}; }
+ORBS_INLINE I32x8 SplitHalves(__m256i a) {
+  return {{_mm256_castsi256_si128(a)}, {_mm256_extractf128_si256(a, 1)}};
+}
 ORBS_INLINE F32x8 AsFloat(I32x8 a) { return {_mm256_castsi256_ps(JoinHalves(a))}; }
 ORBS_INLINE I32x8 AsInt(F32x8 a) { return SplitHalves(_mm256_castps_si256(a.v)); }
 ORBS_INLINE F32x8 ToFloat(I32x8 a) { return {_mm256_cvtepi32_ps(JoinHalves(a))}; }
@@ -406,6 +412,10 @@ ORBS_INLINE void LoadWiden(const T* p, I32x8* out) {
 ORBS_INLINE void StorePacked(Orb16s* p, I32x8 a, I32x8 b) {
   Pack(a.low, a.high).Store(p);
   Pack(b.low, b.high).Store(p + 8);
+}
+ORBS_INLINE I16x8 PackHalves(I32x8 a) { return Pack(a.low, a.high); }
+ORBS_INLINE I32x8 Widen(I16x8 a) {
+  return {{_mm_cvtepi16_epi32(a.v)}, {_mm_cvtepi16_epi32(_mm_unpackhi_epi64(a.v, a.v))}};
 }
 
 template <class Operation>
@@ -426,6 +436,32 @@ ORBS_INLINE F64x4 Add64(F64x4 a, F64x4 b) {
 }
 
 #endif
+
+ORBS_INLINE void StorePacked(Orb16s* p, I32x8 a) { PackHalves(a).Store(p); }
+
+// ---- Separate parts of integers ----
+
+ORBS_INLINE void LoadPairs(const Orb16s* re, const Orb16s* im, I32x8* out) {
+  const __m128i r = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(re));
+  const __m128i i = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(im));
+  *out = Widen(I16x8{_mm_unpacklo_epi16(r, i)});
+}
+ORBS_INLINE void LoadPairs(const Orb32s* re, const Orb32s* im, F64x4* out) {
+  const __m128i r = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(re));
+  const __m128i i = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(im));
+  *out = {_mm256_cvtepi32_pd(_mm_unpacklo_epi32(r, i))};
+}
+ORBS_INLINE void StoreHalves(void* low, void* high, __m128i parts) {
+  _mm_storel_epi64(static_cast<__m128i*>(low), parts);
+  _mm_storel_epi64(static_cast<__m128i*>(high), _mm_unpackhi_epi64(parts, parts));
+}
+ORBS_INLINE void StoreRoundedPairs(Orb32s* re, Orb32s* im, F64x4 a) {
+  StoreHalves(re, im, _mm_shuffle_epi32(_mm256_cvtpd_epi32(a.v), _MM_SHUFFLE(3, 1, 2, 0)));
+}
+ORBS_INLINE void StorePackedPairs(Orb16s* re, Orb16s* im, I32x8 a) {
+  const __m128i order = _mm_setr_epi8(0, 1, 4, 5, 8, 9, 12, 13, 2, 3, 6, 7, 10, 11, 14, 15);
+  StoreHalves(re, im, _mm_shuffle_epi8(PackHalves(a).v, order));
+}
 
 // ---- Conversions between binary64 and narrower types ----
 

@@ -379,6 +379,28 @@ ORBS_INLINE I32x4 TruncateToInt(F64x2 low, F64x2 high) {
 ORBS_INLINE I16x8 Pack(I32x4 a, I32x4 b) { return {_mm_packs_epi32(a.v, b.v)}; }
 ORBS_INLINE U8x16 Pack(I16x8 a, I16x8 b) { return {_mm_packus_epi16(a.v, b.v)}; }
 ORBS_INLINE void StorePacked(Orb16s* p, I32x4 a, I32x4 b) { Pack(a, b).Store(p); }
+ORBS_INLINE void StorePacked(Orb16s* p, I32x4 a) {
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_packs_epi32(a.v, a.v));
+}
+
+// Separate parts of integers to pairs, widened, and back.
+ORBS_INLINE void LoadPairs(const Orb16s* re, const Orb16s* im, I32x4* out) {
+  const __m128i x = _mm_unpacklo_epi16(_mm_loadu_si32(re), _mm_loadu_si32(im));
+  *out = {_mm_srai_epi32(_mm_unpacklo_epi16(x, x), 16)};
+}
+ORBS_INLINE void LoadPairs(const Orb32s* re, const Orb32s* im, F64x2* out) {
+  *out = {_mm_cvtepi32_pd(_mm_unpacklo_epi32(_mm_loadu_si32(re), _mm_loadu_si32(im)))};
+}
+ORBS_INLINE void StorePackedPairs(Orb16s* re, Orb16s* im, I32x4 a) {
+  const __m128i parts = _mm_shufflelo_epi16(_mm_packs_epi32(a.v, a.v), _MM_SHUFFLE(3, 1, 2, 0));
+  _mm_storeu_si32(re, parts);
+  _mm_storeu_si32(im, _mm_srli_epi64(parts, 32));
+}
+ORBS_INLINE void StoreRoundedPairs(Orb32s* re, Orb32s* im, F64x2 a) {
+  const __m128i parts = _mm_cvtpd_epi32(a.v);
+  _mm_storeu_si32(re, parts);
+  _mm_storeu_si32(im, _mm_srli_epi64(parts, 32));
+}
 
 // The zero-extended halves of a 16-bit vector and back. "In lanes": a pair that fits together, without the
 // permutations that the order of elements costs on 256 bits.

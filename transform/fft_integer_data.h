@@ -1,0 +1,84 @@
+// Arrays of integers as the passes see them: a first pass that converts what it reads and a last one that
+// scales, rounds and saturates what it writes save two trips through memory.
+#ifndef ORBS_TRANSFORM_FFT_INTEGER_DATA_H
+#define ORBS_TRANSFORM_FFT_INTEGER_DATA_H
+
+#include "frame/round_scaled.h"
+#include "frame/scaling.h"
+#include "frame/simd.h"
+#include "transform/fft_data.h"
+
+namespace orbs::ORBS_VARIANT {
+
+// Sources, read as numbers of T.
+template <class T, class Int>
+struct IntegerPairs {
+  const Int* pairs;
+};
+template <class T, class Int>
+struct IntegerParts {
+  const Int* re;
+  const Int* im;
+};
+
+// Results; numbers of T, times the factor, are rounded to nearest.
+template <class T>
+struct VectorFactor {
+  VectorOf<T> first;
+  VectorOf<T> second;
+
+  ORBS_INLINE explicit VectorFactor(Orb32s scaleFactor) {
+    const PowerOfTwo<T> factor = InversePowerOfTwo<T>(scaleFactor);
+    first = VectorOf<T>::All(factor.first);
+    second = VectorOf<T>::All(factor.second);
+  }
+  ORBS_INLINE VectorOf<T> operator()(VectorOf<T> v) const { return v * first * second; }
+};
+template <class T, class Int>
+struct RoundedPairs {
+  Int* pairs;
+  VectorFactor<T> factor;
+};
+template <class T, class Int>
+struct RoundedParts {
+  Int* re;
+  Int* im;
+  VectorFactor<T> factor;
+};
+
+// ---- A vector of pairs at point i ----
+
+template <class Int>
+ORBS_INLINE F32 LoadPoints(IntegerPairs<Orb32f, Int> data, size_t i) {
+  I32 x;
+  LoadWiden(data.pairs + 2 * i, &x);
+  return ToFloat(x);
+}
+ORBS_INLINE F64 LoadPoints(IntegerPairs<Orb64f, Orb32s> data, size_t i) {
+  F64 x;
+  LoadWiden(data.pairs + 2 * i, &x);
+  return x;
+}
+ORBS_INLINE F32 LoadPoints(IntegerParts<Orb32f, Orb16s> data, size_t i) {
+  I32 x;
+  LoadPairs(data.re + i, data.im + i, &x);
+  return ToFloat(x);
+}
+ORBS_INLINE F64 LoadPoints(IntegerParts<Orb64f, Orb32s> data, size_t i) {
+  F64 x;
+  LoadPairs(data.re + i, data.im + i, &x);
+  return x;
+}
+
+template <class T, class Int>
+ORBS_INLINE void StorePoints(RoundedPairs<T, Int> data, size_t i, VectorOf<T> v) {
+  StoreSaturated<RoundNear>(data.pairs + 2 * i, data.factor(v));
+}
+template <class T, class Int>
+ORBS_INLINE void StorePoints(RoundedParts<T, Int> data, size_t i, VectorOf<T> v) {
+  StoreSaturatedPairs(data.re + i, data.im + i, data.factor(v));
+}
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif
