@@ -16,33 +16,35 @@ namespace orbs::ORBS_VARIANT {
 // recursive digital filters", 1989). With c[k] = -a[k], 0 beyond the order, row k tells how much y[n-k]
 // counts in each of a vector of results y[n], y[n+1], ...:
 //   T[k][0] = c[k],   T[k][i] = c[1] T[k][i-1] + ... + c[i] T[k][0] + c[k+i]
-// The sums are made in binary64 and rounded once: the errors of the rows act like errors of coefficients, and
-// for poles near 1 the rows nearly cancel. For order 2 the first row has a part of the second, see layout.h.
-// For |c[1]| far above 1 rows pass the range of binary32: limited, they still saturate the results, and
-// silence times a limit is silence, which silence times infinity is not.
-template <class Kind>
-void StoreLookAheadRows(const typename Kind::Work* a, Orb32s order, Orb32f* rows) {
+// The sums are made in binary64 and rounded at most once: the errors of the rows act like errors of
+// coefficients, and for poles near 1 the rows nearly cancel. For order 2 the first row has a part of the
+// second, see layout.h. For |c[1]| far above 1 rows pass the range of their type: limited, they still
+// saturate the results, and silence times a limit is silence, which silence times infinity is not.
+template <class Kind, class Part>
+void StoreLookAheadRows(const typename Kind::Work* a, Orb32s order, Orb32s elements, Part* rows) {
   using N = Number<Orb64f, Kind::kParts>;
-  constexpr int kMostElements = 2 * F32::kLanes / Kind::kParts;
-  const Orb32s elements = RowParts(order) / Kind::kParts;
+  constexpr int kMostElements = kShortRowParts;
   N second[kMostElements];  // the row after the current one
   const auto c = [&](Orb32s k) { return k <= order ? -N::From(a[k - 1]) : N::Zero(); };
   const auto limited = [](N row) {
-    constexpr Orb64f kLimit = 0x1p120;  // room for the sum of two
+    constexpr Orb64f kLimit = sizeof(Part) == 4 ? 0x1p120 : 0x1p480;  // room for a sum, and for a product
     for (Orb64f& part : row.part) part = part > kLimit ? kLimit : part < -kLimit ? -kLimit : part;
     return row;
   };
-  auto* const out = reinterpret_cast<typename Kind::Work*>(rows);
+  const auto put = [&](Orb32s k, Orb32s i, N row) {
+    Part* const out = rows + (int64_t{k - 1} * elements + i) * Kind::kParts;
+    for (int part = 0; part < Kind::kParts; ++part) out[part] = static_cast<Part>(row.part[part]);
+  };
   for (Orb32s k = order; k >= 1; --k) {
     N row[kMostElements];
     for (Orb32s i = 0; i < elements; ++i) {
       row[i] = c(k + i);
       for (Orb32s j = 1; j <= i && j <= order; ++j) row[i] = row[i] + c(j) * row[i - j];
-      limited(row[i]).To(out + int64_t{k - 1} * elements + i);
+      put(k, i, limited(row[i]));
       if (order == 2 && k == 1) {
         const int pairing = PairingOf<Kind::kParts>(Parts(a));
-        if (pairing == 1) limited(row[i] + second[i]).To(out + i);
-        if (pairing == -1) limited(row[i] - second[i]).To(out + i);
+        if (pairing == 1) put(1, i, limited(row[i] + second[i]));
+        if (pairing == -1) put(1, i, limited(row[i] - second[i]));
       }
       second[i] = row[i];
     }
@@ -54,7 +56,8 @@ void StoreSectionTables(IirView<Kind> view, Orb32s section) {
   using N = Number<Orb32f, Kind::kParts>;
   using Work = typename Kind::Work;
   const Work* const t = view.Taps() + int64_t{5} * section;
-  StoreLookAheadRows<Kind>(t + 3, 2, view.LookAheadTable() + int64_t{2} * section * RowParts(2));
+  StoreLookAheadRows<Kind>(t + 3, 2, kShortRowParts / Kind::kParts,
+                           view.ShortRows() + int64_t{2} * section * kShortRowParts);
   Work* const table = reinterpret_cast<Work*>(view.SectionTable()) + int64_t{section} * kSectionTableElements;
   const N values[kSectionTableElements] = {N::From(t[0]),  N::From(t[1]),  N::From(t[2]), N::Zero(),
                                            -N::From(t[3]), -N::From(t[4]), N::Zero(),     N::Zero()};
@@ -64,7 +67,12 @@ void StoreSectionTables(IirView<Kind> view, Orb32s section) {
 template <class Kind>
 void StoreOrderTables(IirView<Kind> view) {
   const Orb32s order = view.state->delayLen;
-  StoreLookAheadRows<Kind>(view.Taps() + order + 1, order, view.LookAheadTable());
+  const auto* const a = view.Taps() + order + 1;
+  if (order < kFirstLongOrder) {
+    StoreLookAheadRows<Kind>(a, order, kShortRowParts / Kind::kParts, view.ShortRows());
+  } else {
+    StoreLookAheadRows<Kind>(a, order, kRowElements, view.LongRows());
+  }
 }
 
 #else

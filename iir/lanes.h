@@ -25,6 +25,10 @@ template <int lane>
 ORBS_INLINE F32x4 AllOf(F32x4 a) {
   return {_mm_shuffle_ps(a.v, a.v, lane * 0x55)};
 }
+template <int lane>
+ORBS_INLINE F64x2 AllOf(F64x2 a) {
+  return {_mm_shuffle_pd(a.v, a.v, lane * 3)};
+}
 // One lane of each quarter register (four lanes) in all lanes of that quarter.
 template <int lane>
 ORBS_INLINE F32x4 AllOfQuarter(F32x4 a) {
@@ -46,6 +50,14 @@ ORBS_INLINE F32x8 AllOf(F32x8 a) {
   return {_mm256_permutevar8x32_ps(a.v, _mm256_set1_epi32(lane))};
 #else
   return AllOfQuarter<lane % 4>(F32x8{_mm256_permute2f128_ps(a.v, a.v, lane / 4 * 0x11)});
+#endif
+}
+template <int lane>
+ORBS_INLINE F64x4 AllOf(F64x4 a) {
+#ifdef __AVX2__
+  return {_mm256_permute4x64_pd(a.v, lane * 0x55)};
+#else
+  return {_mm256_permute_pd(_mm256_permute2f128_pd(a.v, a.v, lane / 2 * 0x11), lane % 2 * 0xF)};
 #endif
 }
 // Four lanes from memory in both quarters, and zeros below the low quarter.

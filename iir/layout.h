@@ -12,10 +12,12 @@ inline constexpr uintptr_t kIirAlignment = 32;
 inline constexpr Orb32s kIirPiece = 1024;
 
 #if ORBS_VECTOR
-// A row of the look-ahead table is for one vector of results, or for two where orders are low. For two
-// vectors of order 4 the states of real filters have no room with AVX.
-constexpr int RowVectors(Orb32s order) { return order <= 3 ? 2 : 1; }
-constexpr int RowParts(Orb32s order) { return RowVectors(order) * F32::kLanes; }
+// A row of the look-ahead table. For the orders 1 and 2, and so for biquads, it is in binary32 and for two
+// vectors of results; for higher orders in binary64 and for four results, which is what the states of real
+// filters have room for.
+inline constexpr int kShortRowParts = 2 * F32::kLanes;
+inline constexpr int kRowElements = 4;
+inline constexpr Orb32s kFirstLongOrder = 3;
 
 // For order 2 the first row is T[1] + p T[2], for
 //   y[n-1] T[1] + y[n-2] T[2] = y[n-1] (T[1] + p T[2]) + (y[n-2] - p y[n-1]) T[2]
@@ -53,9 +55,12 @@ IirLayout DescribeIir(Orb32s units) {
   // The blocks before the tables: kernels read whole vectors, up to one behind a block.
   at.blockA.bytes = block.Add<Work>(kIirPiece, kPadding).bytes;
   at.blockB.bytes = block.Add<Work>(kIirPiece, kPadding).bytes;
-  const int64_t tableParts =
-      Kind::kCascade ? int64_t{units} * 2 * RowParts(2) : int64_t{units} * RowParts(units);
-  at.lookAheadTable = block.Add<Orb32f>(tableParts, kPadding);
+  if (Kind::kCascade || units < kFirstLongOrder) {
+    const int64_t rows = Kind::kCascade ? int64_t{2} * units : units;
+    at.lookAheadTable.bytes = block.Add<Orb32f>(rows * kShortRowParts, kPadding).bytes;
+  } else {
+    at.lookAheadTable.bytes = block.Add<Orb64f>(int64_t{units} * kRowElements * Kind::kParts, kPadding).bytes;
+  }
   if (Kind::kCascade) {
     at.sectionTable = block.Add<Orb32f>(int64_t{units} * kSectionTableElements * Kind::kParts, kPadding);
   }

@@ -10,8 +10,8 @@
 // T[1] moved up by one, w[1] by T[1] moved up by two, and so on. Then the results of the low quarter reach
 // those of the high one by the rows T.
 //
-// Orders up to 4, and so all biquads, have everything in registers. Up to order 3 they take two vectors a
-// round: the second has its rows too, so that one wait for a sum yields 2 R results.
+// The orders 1 and 2, and so all biquads, have everything in registers. They take two vectors a round: the
+// second has its rows too, so that one wait for a sum yields 2 R results.
 #ifndef ORBS_IIR_LOOK_AHEAD_H
 #define ORBS_IIR_LOOK_AHEAD_H
 
@@ -94,8 +94,7 @@ struct RowSum<2> {
   ORBS_INLINE F32 Value() const { return AddRotated(a, b); }
 };
 
-// What turns w into v. kReach rows reach from the low quarter into the high one: as many as the order, if the
-// quarter has so many elements.
+// What turns w into v. kReach rows, as many as the order, reach from the low quarter into the high one.
 template <int kParts, int kReach>
 class Silence {
  public:
@@ -135,9 +134,9 @@ class Silence {
 #endif
 };
 
-// ---- Orders 1 to 4 ----
+// ---- Orders 1 and 2 ----
 
-// kPairing is that of the table's first row, 0 for orders other than 2.
+// kPairing is that of the table's first row, 0 for order 1.
 template <int kParts, int kOrder, int kPairing = 0>
 class ShortRecursion {
  public:
@@ -159,8 +158,7 @@ class ShortRecursion {
       const size_t n = end - i;
       if (n < kVector) w = FirstLanes(w, n);
       const F32 result = AddPast(silence_.Across(silence_.Within(w)), rows_.near);
-      older_ = newer_;
-      newer_ = result;
+      newest_ = result;
       if (n >= kVector) {
         result.Store(y + i);
       } else {
@@ -172,16 +170,8 @@ class ShortRecursion {
   }
 
  private:
-  // Rows that reach from one vector into the next.
-  static constexpr int kWithin = kOrder < kElements ? kOrder : kElements;
-  static constexpr int kQuarter = kQuarterParts / kParts;
-  static constexpr int kVectors = RowVectors(kOrder);
-  static constexpr size_t kRound = kVectors * kVectorParts;
-  static constexpr int kStride = RowParts(kOrder);
-  // A sum of so many products is made in two halves.
-  static constexpr bool kSplit = kOrder > 2;
-  // Rows that reach from quarter to quarter.
-  static constexpr int kReach = kOrder < kQuarter ? kOrder : kQuarter;
+  static_assert(kOrder <= kElements, "all of the past that counts stands in one vector");
+  static constexpr size_t kRound = kShortRowParts;
 
   // The table's rows.
   struct Rows {
@@ -191,17 +181,13 @@ class ShortRecursion {
 
     ORBS_INLINE explicit Rows(const Orb32f* table) {
       ForConstants<kOrder>([&](auto k) {
-        plain[k] = near[k] = F32::Load(table + k * kStride);
-        far[k] = kVectors == 2 ? F32::Load(table + k * kStride + kVectorParts) : near[k];
+        plain[k] = near[k] = F32::Load(table + k * kShortRowParts);
+        far[k] = F32::Load(table + k * kShortRowParts + kVectorParts);
       });
       if constexpr (kPairing == 1) plain[0] = near[0] - near[1];
       if constexpr (kPairing == -1) plain[0] = near[0] + near[1];
     }
-    ORBS_INLINE Silence<kParts, kReach> MakeSilence() const {
-      F32 reaching[kReach];
-      ForConstants<kReach>([&](auto k) { reaching[k] = plain[k]; });
-      return Silence<kParts, kReach>(reaching);
-    }
+    ORBS_INLINE Silence<kParts, kOrder> MakeSilence() const { return Silence<kParts, kOrder>(plain); }
   };
 
   ORBS_INLINE ShortRecursion(const Orb32f* b, const Rows& rows) : rows_(rows), silence_(rows.MakeSilence()) {
@@ -218,19 +204,14 @@ class ShortRecursion {
   // y[n-1-k].
   template <int k>
   ORBS_INLINE Factor<kParts> Past() const {
-    if constexpr (k < kElements) {
-      return FactorOf<kParts, kElements - 1 - k>(newer_);
-    } else {
-      return FactorOf<kParts, 2 * kElements - 1 - k>(older_);
-    }
+    return FactorOf<kParts, kElements - 1 - k>(newest_);
   }
 
-  // Two vectors whose last elements are the N results before y.
+  // A vector whose last elements are the N results before y.
   ORBS_INLINE void LoadPast(const Orb32f* y) {
-    Orb32f past[2 * kVectorParts] = {};
-    std::memcpy(past + 2 * kVectorParts - kOrder * kParts, y - kOrder * kParts, kOrder * kParts * sizeof *y);
-    older_ = F32::Load(past);
-    newer_ = F32::Load(past + kVectorParts);
+    Orb32f past[kVectorParts] = {};
+    std::memcpy(past + kVectorParts - kOrder * kParts, y - kOrder * kParts, kOrder * kParts * sizeof *y);
+    newest_ = F32::Load(past);
   }
 
   ORBS_INLINE F32 AddPast(F32 v, const F32 (&rows)[kOrder]) const {
@@ -240,11 +221,6 @@ class ShortRecursion {
       const auto change = kPairing == 1 ? Past<1>() - last : Past<1>() + last;
       sum.Add(last, rows[0]);
       sum.Add(change, rows[1]);
-    } else if constexpr (kSplit) {
-      auto other = RowSum<kParts>::Of(Past<kOrder - 1>(), rows[kOrder - 1]);
-      ForConstants<kOrder / 2 - 1>([&](auto k) { other.Add(Past<kOrder - 2 - k>(), rows[kOrder - 2 - k]); });
-      ForConstants<kOrder - kOrder / 2>([&](auto k) { sum.Add(Past<k>(), rows[k]); });
-      sum.Add(other);
     } else {
       ForConstants<kOrder>([&](auto k) { sum.Add(Past<kOrder - 1 - k>(), rows[kOrder - 1 - k]); });
     }
@@ -254,35 +230,23 @@ class ShortRecursion {
   // A round in three stages. Each is a chain of dependent sums; the loop runs the stages of three rounds side
   // by side, since the processor does not look far enough ahead to find the next round by itself.
   struct Round {
-    F32 v[kVectors];
+    F32 first;
+    F32 second;
   };
   ORBS_INLINE Round Begin(const Orb32f* u) const {
-    Round round;
-    ForConstants<kVectors>([&](auto r) { round.v[r] = silence_.Within(Numerator(u + r * kVectorParts)); });
-    return round;
+    return {silence_.Within(Numerator(u)), silence_.Within(Numerator(u + kVectorParts))};
   }
   ORBS_INLINE Round Complete(Round round) const {
-    ForConstants<kVectors>([&](auto r) { round.v[r] = silence_.Across(round.v[r]); });
-    if constexpr (kVectors == 2) {
-      auto second = RowSum<kParts>::From(round.v[1]);
-      ForConstants<kWithin>(
-          [&](auto k) { second.Add(FactorOf<kParts, kElements - 1 - k>(round.v[0]), rows_.plain[k]); });
-      round.v[1] = second.Value();
-    }
-    return round;
+    const F32 first = silence_.Across(round.first);
+    auto second = RowSum<kParts>::From(silence_.Across(round.second));
+    ForConstants<kOrder>(
+        [&](auto k) { second.Add(FactorOf<kParts, kElements - 1 - k>(first), rows_.plain[k]); });
+    return {first, second.Value()};
   }
   ORBS_INLINE void Finish(Round round, Orb32f* y) {
-    const F32 first = AddPast(round.v[0], rows_.near);
-    first.Store(y);
-    if constexpr (kVectors == 2) {
-      const F32 second = AddPast(round.v[1], rows_.far);
-      second.Store(y + kVectorParts);
-      older_ = first;
-      newer_ = second;
-    } else {
-      older_ = newer_;
-      newer_ = first;
-    }
+    AddPast(round.first, rows_.near).Store(y);
+    newest_ = AddPast(round.second, rows_.far);
+    newest_.Store(y + kVectorParts);
   }
 
   // The parts that this has made.
@@ -305,54 +269,10 @@ class ShortRecursion {
   }
 
   Rows rows_;
-  Silence<kParts, kReach> silence_;
+  Silence<kParts, kOrder> silence_;
   Factor<kParts> b_[kOrder + 1];
-  F32 older_;
-  F32 newer_;
+  F32 newest_;
 };
-
-// ---- Orders from 5 ----
-
-// In y stand w from `first` on, and results before; w becomes results up to count-1. A round makes one
-// vector: the rows come from memory, four sums keep the multiply-adders busy, and the most recent results
-// come last.
-template <int kParts>
-void LongRecursion(const Orb32f* rows, Orb32s order, Orb32f* y, Orb32s first, Orb32s count) {
-  constexpr size_t kVector = kVectorParts;
-  constexpr int kReach = kQuarterParts / kParts;
-  F32 reaching[kReach];
-  ForConstants<kReach>([&](auto k) { reaching[k] = F32::Load(rows + k * kVectorParts); });
-  const Silence<kParts, kReach> silence(reaching);
-  const auto vector = [&](const Orb32f* w, const Orb32f* now) {
-    RowSum<kParts> sum[4] = {RowSum<kParts>::From(silence.Across(silence.Within(F32::Load(w)))),
-                             RowSum<kParts>::From(F32::Zero()), RowSum<kParts>::From(F32::Zero()),
-                             RowSum<kParts>::From(F32::Zero())};
-    const Orb32f* past = now - int64_t{order} * kParts;
-    const Orb32f* row = rows + (int64_t{order} - 1) * kVectorParts;
-    Orb32s k = order;
-    for (; k % 4 != 0; --k, past += kParts, row -= kVectorParts) {
-      sum[1].Add(Factor<kParts>::Load(past), F32::Load(row));
-    }
-    for (; k > 0; k -= 4, past += 4 * kParts, row -= 4 * kVectorParts) {
-      ForConstants<4>([&](auto j) {
-        sum[j].Add(Factor<kParts>::Load(past + j * kParts), F32::Load(row - j * kVectorParts));
-      });
-    }
-    sum[0].Add(sum[1]);
-    sum[2].Add(sum[3]);
-    sum[0].Add(sum[2]);
-    return sum[0].Value();
-  };
-  const size_t end = static_cast<size_t>(count) * kParts;
-  size_t i = static_cast<size_t>(first) * kParts;
-  for (; i + kVector <= end; i += kVector) vector(y + i, y + i).Store(y + i);
-  if (i == end) return;
-  // Fewer than a vector: on a copy with zeros behind.
-  Orb32f few[kVector] = {};
-  CopyFew<kVector * sizeof *y / 2>(few, y + i, end - i);
-  vector(few, y + i).Store(few);
-  CopyFew<kVector * sizeof *y / 2>(y + i, few, end - i);
-}
 
 }  // namespace orbs::ORBS_VARIANT
 

@@ -8,6 +8,7 @@
 #include "frame/sliding_products.h"
 #include "frame/toolkit.h"
 #include "iir/lane_cascade.h"
+#include "iir/long_recursion.h"
 #include "iir/look_ahead.h"
 #include "iir/step.h"
 
@@ -30,12 +31,12 @@ void RunShort(const Orb32f* b, const Orb32f* rows, const Orb32f* u, Orb32f* y, O
 
 // The numerators are a FIR filter over the piece; they stand where their results will.
 template <class Work>
-void RunLong(const Work* b, const Orb32f* rows, Orb32s order, const Work* x, Work* y, Orb32s count) {
+void RunLong(const Work* b, const Orb64f* rows, Orb32s order, const Work* x, Work* y, Orb32s count) {
   constexpr int kParts = PartsOf<Work>::kCount;
   Work reversed[kIirPiece / 4 + 1];
   for (Orb32s k = 0; k <= order; ++k) reversed[k] = b[order - k];
   SlidingProducts(x, reversed, order + 1, y + order, static_cast<size_t>(count - order));
-  LongRecursion<kParts>(rows, order, Parts(y), order, count);
+  RunLongRecursion<kParts>(rows, order, Parts(y), count);
 }
 
 // The first N samples go through the delay line as single ones do; then the results themselves are the past.
@@ -49,22 +50,12 @@ const typename Kind::Work* FilterPiece(IirView<Kind> view, Orb32s count) {
   auto* const y = view.BlockB();
   for (Orb32s i = 0; i < order; ++i) StepArbitraryOrder(view, N::From(x[i])).To(y + i);
   const Orb32f* const b = Parts(view.Taps());
-  const Orb32f* const rows = view.LookAheadTable();
-  switch (order) {
-    case 1:
-      RunShort<kParts, 1>(b, rows, Parts(x), Parts(y), count);
-      break;
-    case 2:
-      RunShort<kParts, 2>(b, rows, Parts(x), Parts(y), count);
-      break;
-    case 3:
-      RunShort<kParts, 3>(b, rows, Parts(x), Parts(y), count);
-      break;
-    case 4:
-      RunShort<kParts, 4>(b, rows, Parts(x), Parts(y), count);
-      break;
-    default:
-      RunLong(view.Taps(), rows, order, x, y, count);
+  if (order == 1) {
+    RunShort<kParts, 1>(b, view.ShortRows(), Parts(x), Parts(y), count);
+  } else if (order == 2) {
+    RunShort<kParts, 2>(b, view.ShortRows(), Parts(x), Parts(y), count);
+  } else {
+    RunLong(view.Taps(), view.LongRows(), order, x, y, count);
   }
   for (Orb32s i = count - order; i < count; ++i) UpdateDelay(view, N::From(x[i]), N::From(y[i]));
   return y;
@@ -103,7 +94,7 @@ const typename Kind::Work* FilterCascadePiece(IirView<Kind> view, Orb32s count) 
   auto* y = view.BlockB();
   const auto* t = view.Taps();
   auto* d = view.Delay();
-  const Orb32f* rows = view.LookAheadTable();
+  const Orb32f* rows = view.ShortRows();
   for (Orb32s left = view.state->sectionCount; left > 0;) {
     Orb32s n = (left - 1) % Lanes::kSections + 1;
     if (n > Lanes::kSections / 2 && count >= Lanes::kFill) {
@@ -118,7 +109,7 @@ const typename Kind::Work* FilterCascadePiece(IirView<Kind> view, Orb32s count) 
     left -= n;
     t += 5 * n;
     d += 2 * n;
-    rows += 2 * RowParts(2) * n;
+    rows += 2 * kShortRowParts * n;
   }
   return u;
 }

@@ -17,13 +17,13 @@
 // Offsets are 0 where a state has no such array; the last four arrays are those of the vector variants.
 struct IIRState {
   Orb32s id;
-  orbs::Offset<void> taps;              // of the delay type, normalised
-  orbs::Offset<void> delayLine;         // Orb32f, Orb32fc for complex data
-  Orb32s delayLen;                      // elements that accessors move: N, or 2 B
-  orbs::Offset<Orb32f> lookAheadTable;  // rows of the block recursion, see look_ahead.h
-  Orb32s sectionCount;                  // B, or 0 for arbitrary order
-  orbs::Offset<Orb32f> sectionTable;    // biquads: coefficients for the one-sample step, see step.h
-  orbs::Offset<void> blockA;            // a piece of the stream on its way through the filter
+  orbs::Offset<void> taps;            // of the delay type, normalised
+  orbs::Offset<void> delayLine;       // Orb32f, Orb32fc for complex data
+  Orb32s delayLen;                    // elements that accessors move: N, or 2 B
+  orbs::Offset<void> lookAheadTable;  // rows of the block recursion, see layout.h
+  Orb32s sectionCount;                // B, or 0 for arbitrary order
+  orbs::Offset<Orb32f> sectionTable;  // biquads: coefficients for the one-sample step, see step.h
+  orbs::Offset<void> blockA;          // a piece of the stream on its way through the filter
   orbs::Offset<void> blockB;
   Orb32s owned;  // 1: IIRInitAlloc* made the state
 };
@@ -85,7 +85,8 @@ struct IirView {
   Work* Delay() const { return static_cast<Work*>(state->delayLine.In(state)); }
   Work* BlockA() const { return static_cast<Work*>(state->blockA.In(state)); }
   Work* BlockB() const { return static_cast<Work*>(state->blockB.In(state)); }
-  Orb32f* LookAheadTable() const { return state->lookAheadTable.In(state); }
+  Orb32f* ShortRows() const { return static_cast<Orb32f*>(state->lookAheadTable.In(state)); }
+  Orb64f* LongRows() const { return static_cast<Orb64f*>(state->lookAheadTable.In(state)); }
   Orb32f* SectionTable() const { return state->sectionTable.In(state); }
   Orb32s Units() const { return Kind::kCascade ? state->sectionCount : state->delayLen; }
 };

@@ -30,8 +30,9 @@
  * each multiplied by 1/a[0] of its filter or section in binary64 and rounded once. a[0] must not be 0 (both
  * parts, for complex taps), nor must b[0] of a section.
  *
- * Everything inside is binary32 (in `px` evaluated in extended precision). The delay line is that of the
- * transposed direct form II: with t the taps over a[0],
+ * Everything inside is binary32 (in `px` evaluated in extended precision; in the other variants blocks of
+ * order 3 and up run their recursion in binary64). The delay line is that of the transposed direct form II:
+ * with t the taps over a[0],
  *
  *     y = t_b[0] x + d[0],   d[i] = t_b[i+1] x - t_a[i+1] y + d[i+1]   for i = 0 to N-1, with d[N] = 0
  *
