@@ -3,6 +3,7 @@
 #include "frame/checks.h"
 #include "frame/exports.h"
 #include "frame/memory.h"
+#include "frame/owned_state.h"
 
 namespace orbs::ORBS_VARIANT {
 namespace {
@@ -39,16 +40,9 @@ OrbStatus Init(FIRFloatState** stateOut, const typename Kind::Tap* taps, Orb32s 
 template <class Kind, class Given>
 OrbStatus Allocate(FIRFloatState** stateOut, const Given* taps, Orb32s tapCount,
                    const typename Kind::Data* delayLine, const FirFftSizes& fft, int64_t bytes) {
-  auto* state = static_cast<FIRFloatState*>(AllocAligned(bytes));
-  if (state == nullptr) return StatusMemAlloc;
-  const OrbStatus status = Build<Kind>(state, taps, tapCount, delayLine, fft);
-  if (status != StatusOk) {
-    FreeAligned(state);
-    return status;
-  }
-  state->owned = 1;
-  *stateOut = state;
-  return StatusOk;
+  return AllocateState(stateOut, bytes, [&](FIRFloatState* state) {
+    return Build<Kind>(state, taps, tapCount, delayLine, fft);
+  });
 }
 
 template <class Kind>
@@ -64,7 +58,7 @@ OrbStatus InitAlloc(FIRFloatState** stateOut, const typename Kind::Tap* taps, Or
 template <class Kind>
 OrbStatus Free(FIRFloatState* state) {
   ORBS_RETURN_IF_BAD(CheckStateOnly(state, Kind::kId));
-  if (state->owned == 1) FreeAligned(state);
+  ReleaseState(state);
   return StatusOk;
 }
 

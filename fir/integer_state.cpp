@@ -4,6 +4,7 @@
 #include "frame/checks.h"
 #include "frame/exports.h"
 #include "frame/memory.h"
+#include "frame/owned_state.h"
 
 namespace orbs::ORBS_VARIANT {
 namespace {
@@ -35,12 +36,10 @@ OrbStatus AllocateWith(FIRIntState** stateOut, const Given* taps, Orb32s tapCoun
                        const typename Kind::Data* delayLine, Store store) {
   if (AnyNull(stateOut, taps)) return StatusNullPointer;
   if (tapCount < 1) return StatusFirLength;
-  auto* state = static_cast<FIRIntState*>(AllocAligned(FirIntStateBytes<Kind>(tapCount)));
-  if (state == nullptr) return StatusMemAlloc;
-  store(BuildFirInt<Kind>(state, tapCount, delayLine));
-  state->owned = 1;
-  *stateOut = state;
-  return StatusOk;
+  return AllocateState(stateOut, FirIntStateBytes<Kind>(tapCount), [&](FIRIntState* state) {
+    store(BuildFirInt<Kind>(state, tapCount, delayLine));
+    return StatusOk;
+  });
 }
 
 template <class Kind>
@@ -74,7 +73,7 @@ OrbStatus InitAllocQuantised(FIRIntState** stateOut, const Given* taps, Orb32s t
 template <class Kind>
 OrbStatus Free(FIRIntState* state) {
   ORBS_RETURN_IF_BAD(CheckStateOnly(state, Kind::kId));
-  if (state->owned == 1) FreeAligned(state);
+  ReleaseState(state);
   return StatusOk;
 }
 

@@ -1,7 +1,7 @@
 // Tones from Q15 parameters: one block, and the state.
 #include "frame/checks.h"
 #include "frame/exports.h"
-#include "frame/memory.h"
+#include "frame/owned_state.h"
 #include "gen/tone_kernels.h"
 
 // In the caller's memory at any address, and of the same size on all targets: so packed, with the gaps that
@@ -31,8 +31,8 @@ OrbStatus CheckParameters(Orb16s magn, Orb16s rFreqQ15, Orb32s phaseQ15) {
   return StatusOk;
 }
 
-void Build(ToneState* state, Orb16s magn, Orb16s rFreqQ15, Orb32s phaseQ15, Orb32s owned) {
-  *state = {kToneIdentity, 0, static_cast<Orb64f>(magn), rFreqQ15 * kQ15, phaseQ15 * kQ15, 0, owned, 0, 0};
+void Build(ToneState* state, Orb16s magn, Orb16s rFreqQ15, Orb32s phaseQ15) {
+  *state = {kToneIdentity, 0, static_cast<Orb64f>(magn), rFreqQ15 * kQ15, phaseQ15 * kQ15, 0, 0, 0, 0};
 }
 
 }  // namespace
@@ -54,7 +54,7 @@ OrbStatus legacy90orbsToneGetStateSizeQ15_16s(Orb32s* size) {
 OrbStatus legacy90orbsToneInitQ15_16s(ToneState* state, Orb16s magn, Orb16s rFreqQ15, Orb32s phaseQ15) {
   ORBS_RETURN_IF_BAD(CheckResults(state));
   ORBS_RETURN_IF_BAD(CheckParameters(magn, rFreqQ15, phaseQ15));
-  Build(state, magn, rFreqQ15, phaseQ15, 0);
+  Build(state, magn, rFreqQ15, phaseQ15);
   return StatusOk;
 }
 
@@ -62,11 +62,10 @@ OrbStatus legacy90orbsToneInitAllocQ15_16s(ToneState** stateOut, Orb16s magn, Or
                                            Orb32s phaseQ15) {
   ORBS_RETURN_IF_BAD(CheckResults(stateOut));
   ORBS_RETURN_IF_BAD(CheckParameters(magn, rFreqQ15, phaseQ15));
-  auto* state = static_cast<ToneState*>(AllocAligned(sizeof(ToneState)));
-  if (state == nullptr) return StatusMemAlloc;
-  Build(state, magn, rFreqQ15, phaseQ15, 1);
-  *stateOut = state;
-  return StatusOk;
+  return AllocateState(stateOut, sizeof(ToneState), [=](ToneState* state) {
+    Build(state, magn, rFreqQ15, phaseQ15);
+    return StatusOk;
+  });
 }
 
 OrbStatus legacy90orbsToneQ15_16s(Orb16s* dst, Orb32s len, ToneState* state) {
@@ -82,7 +81,7 @@ OrbStatus legacy90orbsToneQ15_16s(Orb16s* dst, Orb32s len, ToneState* state) {
 
 OrbStatus legacy90orbsToneFree(ToneState* state) {
   ORBS_RETURN_IF_BAD(CheckStateOnly(state, kToneIdentity));
-  if (state->owned == 1) FreeAligned(state);
+  ReleaseState(state);
   return StatusOk;
 }
 

@@ -1,7 +1,7 @@
 // Triangles from Q15 parameters: one block, and the state.
 #include "frame/checks.h"
 #include "frame/exports.h"
-#include "frame/memory.h"
+#include "frame/owned_state.h"
 #include "gen/triangle_kernels.h"
 
 // In the caller's memory at any address, and of the same size on all targets: so packed, with the gaps that
@@ -36,15 +36,13 @@ OrbStatus CheckParameters(Orb16s magn, Orb16s rFreqQ15, Orb32s phaseQ15, Orb32s 
   return StatusOk;
 }
 
-void Build(TriangleState* state, Orb16s magn, Orb16s rFreqQ15, Orb32s phaseQ15, Orb32s asymQ15,
-           Orb32s owned) {
+void Build(TriangleState* state, Orb16s magn, Orb16s rFreqQ15, Orb32s phaseQ15, Orb32s asymQ15) {
   *state = {};
   state->identity = kTriangleIdentity;
   state->magn = magn;
   state->rFreq = rFreqQ15 * kQ15;
   state->phase = phaseQ15 * kQ15;
   state->asym = asymQ15 * kQ15;
-  state->owned = owned;
 }
 
 }  // namespace
@@ -69,7 +67,7 @@ OrbStatus legacy90orbsTriangleInitQ15_16s(TriangleState* state, Orb16s magn, Orb
                                           Orb32s asymQ15) {
   ORBS_RETURN_IF_BAD(CheckResults(state));
   ORBS_RETURN_IF_BAD(CheckParameters(magn, rFreqQ15, phaseQ15, asymQ15));
-  Build(state, magn, rFreqQ15, phaseQ15, asymQ15, 0);
+  Build(state, magn, rFreqQ15, phaseQ15, asymQ15);
   return StatusOk;
 }
 
@@ -77,11 +75,10 @@ OrbStatus legacy90orbsTriangleInitAllocQ15_16s(TriangleState** stateOut, Orb16s 
                                                Orb32s phaseQ15, Orb32s asymQ15) {
   ORBS_RETURN_IF_BAD(CheckResults(stateOut));
   ORBS_RETURN_IF_BAD(CheckParameters(magn, rFreqQ15, phaseQ15, asymQ15));
-  auto* state = static_cast<TriangleState*>(AllocAligned(sizeof(TriangleState)));
-  if (state == nullptr) return StatusMemAlloc;
-  Build(state, magn, rFreqQ15, phaseQ15, asymQ15, 1);
-  *stateOut = state;
-  return StatusOk;
+  return AllocateState(stateOut, sizeof(TriangleState), [=](TriangleState* state) {
+    Build(state, magn, rFreqQ15, phaseQ15, asymQ15);
+    return StatusOk;
+  });
 }
 
 OrbStatus legacy90orbsTriangleQ15_16s(Orb16s* dst, Orb32s len, TriangleState* state) {
@@ -107,7 +104,7 @@ OrbStatus legacy90orbsTriangleQ15_16s(Orb16s* dst, Orb32s len, TriangleState* st
 
 OrbStatus legacy90orbsTriangleFree(TriangleState* state) {
   ORBS_RETURN_IF_BAD(CheckStateOnly(state, kTriangleIdentity));
-  if (state->owned == 1) FreeAligned(state);
+  ReleaseState(state);
   return StatusOk;
 }
 

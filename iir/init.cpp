@@ -1,6 +1,7 @@
 // The life of IIR states: size, Init, InitAlloc, Free.
 #include "frame/checks.h"
 #include "frame/exports.h"
+#include "frame/owned_state.h"
 #include "iir/access.h"
 #include "iir/given_taps.h"
 
@@ -49,23 +50,15 @@ OrbStatus InitAlloc(IIRState** stateOut, const Given* taps, Orb32s units,
                     const typename Kind::IntegerTap* delayLine, Orb32s tapsFactor = 0) {
   if (AnyNull(stateOut, taps)) return StatusNullPointer;
   if (units < 1) return StatusIirOrder;
-  void* const block = AllocAligned(IirStateBytes<Kind>(units));
-  if (block == nullptr) return StatusMemAlloc;
-  IIRState* state = nullptr;
-  const OrbStatus status = Init<Kind>(&state, taps, units, delayLine, block, tapsFactor);
-  if (status != StatusOk) {
-    FreeAligned(block);
-    return status;
-  }
-  state->owned = 1;
-  *stateOut = state;
-  return StatusOk;
+  return AllocateState(stateOut, IirStateBytes<Kind>(units), [=](IIRState* state) {
+    return Init<Kind>(&state, taps, units, delayLine, state, tapsFactor);
+  });
 }
 
 template <class Numbers>
 OrbStatus Free(IIRState* state) {
   ORBS_RETURN_IF_BAD(CheckKinds<Numbers>(state));
-  if (state->owned == 1) FreeAligned(state);
+  ReleaseState(state);
   return StatusOk;
 }
 
