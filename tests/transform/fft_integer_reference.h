@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "orbs90lgc.h"
+#include "support/effort.h"
 
 namespace orbs::test {
 
@@ -49,10 +50,13 @@ std::vector<T> ToCcs(const std::vector<T>& packed, Layout layout) {
 
 using Complexes = std::vector<std::complex<long double>>;
 
-// exp(-2 pi i k / 2^13): one circle for all transforms, since the emulator is slow at sines.
+inline constexpr int kLargestExactOrder = kThorough ? 19 : 15;
+
+// exp(-2 pi i k / N) for the largest order: one circle for all transforms, since the emulator is slow at
+// sines.
 inline const Complexes& Circle() {
   static const Complexes circle = [] {
-    Complexes values(size_t{1} << 13);
+    Complexes values(size_t{1} << kLargestExactOrder);
     for (size_t k = 0; k < values.size(); ++k) {
       values[k] = std::polar(1.0L, -6.283185307179586476925286766559L * static_cast<long double>(k) /
                                        static_cast<long double>(values.size()));
@@ -62,7 +66,7 @@ inline const Complexes& Circle() {
   return circle;
 }
 
-// The sum over n of x[n] exp(-+2 pi i n k / N), N up to 2^13.
+// The sum over n of x[n] exp(-+2 pi i n k / N), up to the largest order.
 inline Complexes ExactTransform(const Complexes& x, bool forward) {
   const size_t n = x.size();
   if (n == 1) return x;
