@@ -256,6 +256,16 @@ TEST_P(IirFilterTest, UnstableFiltersStaySaturated) {
     run(FloatOrder{}, 2);
     for (int sections : {1, 2, 3, 4, 5, 7, 8, 10, 13}) run(FloatBiQuad{}, sections);
   }
+  // Higher orders: every result is the sum of those before it.
+  for (size_t order : {3, 4, 7, 8, 12}) {
+    std::vector<Orb32f> taps(2 * order + 2, -1);
+    std::fill_n(taps.begin(), order + 2, 1.0f);
+    IIRState* state = nullptr;
+    ASSERT_EQ(FloatOrder::InitAlloc(&state, taps.data(), static_cast<int>(order), 0, nullptr), StatusOk);
+    const auto y = Run<FloatOrder>(state, std::vector<Orb16s>(3000, 100), {2500, 0}, 0);
+    for (size_t i = 100; i < y.size(); ++i) ASSERT_EQ(y[i], 32767) << "order " << order << ", sample " << i;
+    FloatOrder::Free(state);
+  }
 }
 
 // The result saturates, the recursion does not: an integrator returns the way it came.
