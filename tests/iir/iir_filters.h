@@ -181,6 +181,10 @@ std::vector<typename F::Tap> StableTaps(int units, uint32_t seed, double radius)
                : k % 2 == 0                       ? pole
                                                   : conj(pole));
     }
+    // A product of many factors has lost its poles to rounding: there small coefficients keep it stable.
+    for (int k = 1; order > 64 && k <= order; ++k) {
+      a[static_cast<size_t>(k)] = radius / order * C(uniform(engine), kComplex ? uniform(engine) : 0);
+    }
     const double gain = (1 - radius) * 1.5;
     const C a0 = kComplex ? C(0.8, 0.6) : C(1.25);
     const double unit = F::kInteger ? 1 << kFractionalBits : 1;

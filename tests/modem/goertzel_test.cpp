@@ -91,11 +91,12 @@ void ForEachFloat(Test test) {
   test(Two64fc{});
 }
 
-// Around the steps of all vector widths, around the blocks of 4096, and a few blocks on.
+// Around the steps of all vector widths, around the blocks of 1024, and some blocks on.
 std::vector<size_t> BlockLengths() {
   std::vector<size_t> lengths;
   for (size_t n = 1; n <= 70; ++n) lengths.push_back(n);
-  for (size_t n : {102, 205, 1000, 4095, 4096, 4097, 4129, 12300}) lengths.push_back(n);
+  for (size_t n : {102, 205, 1000, 1023, 1024, 1025, 2000, 4095, 4096, 4097, 4129, 12300})
+    lengths.push_back(n);
   return lengths;
 }
 

@@ -287,8 +287,43 @@ TEST_P(FftIntegerTest, LargeOrdersAreTheRoundedTransform) {
   for (const Operation& op : kOperations) {
     const int order = firstLargeOrder(op.plan.wide) + (op.plan.real ? 1 : 0);
     if (order > kLargestExactOrder) continue;
-    seed += 2;
-    ASSERT_NO_FATAL_FAILURE(CheckFloat(op, order, kFlags[seed / 2 % 4], HintAccurate, seed, {order / 2}));
+    ++seed;
+    const Orb32s flag = seed % 3 == 0   ? FftScaleNone
+                        : seed % 3 == 1 ? FftScaleBySqrtN
+                        : op.forward    ? FftScaleFwdByN
+                                        : FftScaleInvByN;
+    ASSERT_NO_FATAL_FAILURE(CheckFloat(op, order, flag, HintAccurate, seed, {order / 2}));
+  }
+}
+
+// An impulse becomes equal numbers without any error: ties go to the even neighbour, a large factor saturates
+// what is not 0 and nothing else.
+TEST_P(FftIntegerTest, ImpulsesRoundTiesToEvenAndSaturate) {
+  for (const Operation& op : kOperations) {
+    const int64_t highest = op.resultBytes == 2 ? 32767 : 2147483647;
+    for (int order = op.plan.fixed ? 1 : 0; order <= Effort(9, 7); ++order) {
+      SCOPED_TRACE(testing::Message() << op.name << " order " << order);
+      const Plan plan(op.plan, order, FftScaleNone, HintAccurate);
+      Caller call(op, plan.Get(), order, 0);
+      for (const int64_t value : {1, 3, 5, -1, -3, -5, 32767, -32768}) {
+        for (Orb32s scaleFactor : {1, 17, -1, -20, -40, -1100, INT_MIN, INT_MAX}) {
+          Integers source(op.SourceCount(order));
+          source[0] = value;
+          const long double scaled =
+              std::ldexp(static_cast<long double>(value), -std::max(scaleFactor, -2000));
+          const auto equal =
+              static_cast<int64_t>(std::clamp<long double>(std::rint(scaled), -highest - 1, highest));
+          Integers expected(op.ResultCount(order), equal);
+          if (!op.plan.real || op.forward) {
+            Integers pairs(op.plan.real ? (size_t{1} << order) / 2 * 2 + 2 : expected.size());
+            for (size_t k = 0; k < pairs.size(); k += 2) pairs[k] = equal;
+            expected = op.plan.real ? FromCcs(pairs, op.layout) : pairs;
+          }
+          ASSERT_EQ(call(source, scaleFactor), expected) << value << ", scale factor " << scaleFactor;
+          ASSERT_FALSE(HasFailure());
+        }
+      }
+    }
   }
 }
 
