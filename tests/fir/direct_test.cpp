@@ -45,11 +45,11 @@ std::vector<typename F::Data> DirectSamples(size_t count, uint32_t seed) {
   }
 }
 
-// For integer taps right shifts, and one to the left that leaves nothing but the last bit of a sum.
+// For integer taps right shifts, and one to the left that leaves nothing but the last bits of a sum.
 template <class F>
 Orb32s ScaleFactorFor(int n) {
   if constexpr (F::kInteger) {
-    return n % 5 == 4 ? kTapsFactor - 31 : n % 5;
+    return n % 5 == 4 ? kTapsFactor - 29 : n % 5;
   } else {
     return std::is_integral_v<typename PartOf<typename F::Data>::Type> ? 1 : 0;
   }
