@@ -163,7 +163,8 @@ std::vector<typename F::Tap> RandomTaps(int n, unsigned seed) {
   return RandomNumbers<typename F::Tap>(static_cast<size_t>(n), scale, seed);
 }
 
-// The outputs of a stream: `history` holds the samples before `x`, the newest first.
+// The outputs of a stream: `history` holds the samples before `x`, the newest first. Zeros among the taps
+// cost nothing.
 template <class Tap, class Data>
 std::vector<Exact> ExactOutputs(const std::vector<Tap>& taps, const std::vector<Data>& history,
                                 const std::vector<Data>& x) {
@@ -171,12 +172,17 @@ std::vector<Exact> ExactOutputs(const std::vector<Tap>& taps, const std::vector<
   for (size_t i = history.size(); i-- > 0;) all.push_back(ToExact(history[i]));
   for (const Data& sample : x) all.push_back(ToExact(sample));
   std::vector<Exact> h;
-  for (const Tap& tap : taps) h.push_back(ToExact(tap));
+  std::vector<size_t> used;
+  for (const Tap& tap : taps) {
+    h.push_back(ToExact(tap));
+    if (h.back() != Exact(0)) used.push_back(h.size() - 1);
+  }
   std::vector<Exact> y(x.size());
   for (size_t i = 0; i < x.size(); ++i) {
     long double re = 0;
     long double im = 0;
-    for (size_t k = 0; k < h.size() && k <= history.size() + i; ++k) {
+    for (size_t k : used) {
+      if (k > history.size() + i) break;
       const Exact s = all[history.size() + i - k];
       re += h[k].real() * s.real() - h[k].imag() * s.imag();
       im += h[k].real() * s.imag() + h[k].imag() * s.real();

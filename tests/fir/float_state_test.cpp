@@ -11,30 +11,54 @@ namespace {
 class FirStateTest : public ExportTest {};
 ORBS_INSTANTIATE_VARIANTS(FirStateTest);
 
-// Sizes are what callers allocate by. Below the threshold, so that no plan is in them.
+// Sizes are what callers allocate by: the sums of all up to a tap count below the threshold, so that no plan
+// is in them; from the threshold on there are a plan and two arrays of four times the taps.
 TEST_P(FirStateTest, SizesByVariant) {
   struct Row {
     OrbStatus (*size)(Orb32s, Orb32s*);
     Orb32s tapCount;
     Orb32s px, w7, v8, g9;
+    Orb32s tapBytes, threshold, thresholdFromV8;
   };
   const Row rows[] = {
-      {legacy90orbsFIRGetStateSize_32f, 1, 16576, 16640, 16704, 17840},
-      {legacy90orbsFIRGetStateSize32f_16s, 63, 17568, 18592, 19680, 23760},
-      {legacy90orbsFIRGetStateSize_32fc, 15, 33440, 35072, 35072, 36096},
-      {legacy90orbsFIRGetStateSize_64f, 31, 34016, 34528, 34784, 36320},
-      {legacy90orbsFIRGetStateSize_64fc, 15, 66768, 67280, 67280, 69840},
-      {legacy90orbsFIRGetStateSize_32s, 1000, 64943, 80943, 80943, 97967},
+      {legacy90orbsFIRGetStateSize_32f, 63, 1075296, 1109088, 1145888, 1310448, 4, 64, 64},
+      {legacy90orbsFIRGetStateSize32f_16s, 63, 1075296, 1109088, 1145888, 1310448, 4, 64, 64},
+      {legacy90orbsFIRGetStateSize_32fc, 15, 498128, 511856, 511856, 527216, 8, 16, 16},
+      {legacy90orbsFIRGetStateSize_64f, 31, 1039392, 1048096, 1052384, 1092800, 8, 32, 64},
+      {legacy90orbsFIRGetStateSize_64fc, 15, 994576, 998672, 998672, 1033488, 16, 16, 32},
+      {legacy90orbsFIRGetStateSize_32s, 99, 3420557, 3500557, 3500557, 3681933, 0, 0, 0},
   };
   for (const Row& row : rows) {
+    const auto bytes = [&row](Orb32s tapCount) {
+      Orb32s size = 0;
+      EXPECT_EQ(row.size(tapCount, &size), StatusOk);
+      return size;
+    };
+    const bool early = GetParam() == Variant::px || GetParam() == Variant::w7;
     const Orb32s expected = GetParam() == Variant::px                                ? row.px
                             : GetParam() == Variant::w7                              ? row.w7
                             : GetParam() == Variant::g9 || GetParam() == Variant::h9 ? row.g9
                                                                                      : row.v8;
-    Orb32s size = 0;
-    ASSERT_EQ(row.size(row.tapCount, &size), StatusOk);
-    EXPECT_EQ(size, expected) << &row - rows;
+    Orb32s sum = 0;
+    for (Orb32s n = 1; n <= row.tapCount; ++n) sum += bytes(n);
+    EXPECT_EQ(sum, expected) << &row - rows;
+    if (row.tapBytes == 0) continue;
+    const Orb32s n = early ? row.threshold : row.thresholdFromV8;
+    EXPECT_LT(bytes(n - 1) - bytes(n - 2), 8 * n * row.tapBytes) << &row - rows;
+    EXPECT_GT(bytes(n) - bytes(n - 1), 8 * n * row.tapBytes) << &row - rows;
   }
+}
+
+// Taps that never were integers have their fraction cut off, and are the lower bound where they do not fit.
+TEST_P(FirStateTest, TapsReadAsIntegers) {
+  const Orb64f taps[] = {1.7, -1.7, 2147483647.5, -2147483648.5, 2147483648.0, NAN};
+  constexpr Orb32s kLow = std::numeric_limits<Orb32s>::min();
+  FIRFloatState* state = nullptr;
+  ASSERT_EQ(legacy90orbsFIRInitAlloc64f_32s(&state, taps, 6, nullptr), StatusOk);
+  std::vector<Orb32s> got(6);
+  EXPECT_EQ(legacy90orbsFIRGetTaps_32s(state, got.data()), StatusOk);
+  EXPECT_EQ(got, (std::vector<Orb32s>{1, -1, std::numeric_limits<Orb32s>::max(), kLow, kLow, kLow}));
+  legacy90orbsFIRFree64f_32s(state);
 }
 
 TEST_P(FirStateTest, SizesBeyond31BitsCannotBeHad) {

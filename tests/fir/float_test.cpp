@@ -21,7 +21,8 @@ class FirTest : public ExportTest {
     for (int count : counts) total += static_cast<size_t>(count == 0 ? 1 : std::abs(count));
     const std::vector<Data> x = RandomNumbers<Data>(total, DataScale<Data>(), seed);
     const std::vector<Exact> expected = ExactOutputs(taps, history, x);
-    const Orb32s factor = std::is_integral_v<typename F::Tap> ? 3 + BitsOf(taps.size()) : 0;
+    const bool integers = std::is_integral_v<typename PartOf<Data>::Type>;
+    const Orb32s factor = std::is_integral_v<typename F::Tap> ? 3 + BitsOf(taps.size()) : integers ? 1 : 0;
     const long double divisor = std::ldexp(1.0L, factor);
     const long double tolerance = (Tolerance<F>(taps) - 0.5L) / divisor + 0.5L;
     const long double allowed = factor == 0 ? Tolerance<F>(taps) : tolerance;
@@ -45,7 +46,10 @@ class FirTest : public ExportTest {
       ASSERT_TRUE(result.GuardsIntact());
       for (size_t i = 0; i < size; ++i) {
         const Exact error = ToExact(result[i]) - expected[done + i] / divisor;
-        ASSERT_LE(std::max(std::abs(error.real()), std::abs(error.imag())), allowed)
+        // Single samples of binary32 are added up in more than that, and rounded once.
+        const bool once = std::is_same_v<F, Filter32f> && count == 0;
+        const long double rounded = std::abs(expected[done + i]) * 0x1p-24L + 1e-13L;
+        ASSERT_LE(std::max(std::abs(error.real()), std::abs(error.imag())), once ? rounded : allowed)
             << F::kName << ", " << taps.size() << " taps, sample " << i << " of a call of " << count
             << " after " << done;
       }
@@ -143,6 +147,23 @@ TEST_P(FirTest, LongBlocksInPlace) {
   });
 }
 
+// A history that does not fit into the block buffer, with what lies behind that in use afterwards. Most taps
+// are zeros, for the sake of the exact sums.
+TEST_P(FirTest, LongFilters) {
+  ForEachFilter([&](auto filter) {
+    using F = decltype(filter);
+    constexpr int kTaps = 3100;
+    const auto few = RandomTaps<F>(kTaps, 14u);
+    std::vector<typename F::Tap> taps(kTaps);
+    for (size_t k : {0, 1, 2, 15, 700, 1023, 1024, 1951, 2976, kTaps - 2, kTaps - 1}) taps[k] = few[k];
+    const auto history = RandomNumbers<typename F::Data>(kTaps, DataScale<typename F::Data>(), 15u);
+    FIRFloatState* state = nullptr;
+    ASSERT_EQ(F::InitAlloc(&state, taps.data(), kTaps, history.data()), StatusOk);
+    CheckStream<F>(state, taps, history, {-1100, 200, 0, 600, -200}, 16u);
+    EXPECT_EQ(F::Free(state), StatusOk);
+  });
+}
+
 TEST_P(FirTest, TapsAndDelayLineCanBeReplaced) {
   ForEachFilter([&](auto filter) {
     using F = decltype(filter);
@@ -176,6 +197,18 @@ TEST_P(FirTest, OldInfinitiesAreForgotten) {
     EXPECT_EQ(y, static_cast<Orb32f>(n) / 2);
     legacy90orbsFIRFree_32f(state);
   }
+  // By transform, where they spread over all of it: the next call fills it in part only.
+  FIRFloatState* state = nullptr;
+  const std::vector<Orb32f> taps(300, 0.5f);
+  ASSERT_EQ(legacy90orbsFIRInitAlloc_32f(&state, taps.data(), 300, nullptr), StatusOk);
+  std::vector<Orb32f> x(600, 1);
+  std::vector<Orb32f> y(600);
+  x[0] = INFINITY;
+  legacy90orbsFIR_32f(x.data(), y.data(), 600, state);
+  x[0] = 1;
+  legacy90orbsFIR_32f(x.data(), y.data(), 600, state);
+  for (Orb32f result : y) ASSERT_NEAR(result, 150, 1e-3);
+  legacy90orbsFIRFree_32f(state);
 }
 
 template <class F>

@@ -99,12 +99,13 @@ class FirIntegerTest : public ExportTest {
     for (size_t j = 0; j < delay.size(); ++j) {
       const Data recent = j < x.size() ? x[x.size() - 1 - j] : history[j - x.size()];
       ASSERT_EQ(ToPair(delay[j]).re, ToPair(recent).re) << j;
+      ASSERT_EQ(ToPair(delay[j]).im, ToPair(recent).im) << j;
     }
   }
 };
 ORBS_INSTANTIATE_VARIANTS(FirIntegerTest);
 
-// In exactly the bytes reported; sums that wrap among them.
+// In exactly the bytes reported; sums that wrap among them. A shift by 29 leaves their last bits.
 TEST_P(FirIntegerTest, EveryTapCountInMemoryOfTheCaller) {
   ForEachFilter([&](auto filter) {
     using F = decltype(filter);
@@ -117,7 +118,8 @@ TEST_P(FirIntegerTest, EveryTapCountInMemoryOfTheCaller) {
       FIRIntState* state = nullptr;
       ASSERT_EQ(F::Init(&state, taps.data(), n, -15, history.data(), block.data()), StatusOk);
       CheckStream<F>(state, taps, history,
-                     {1, 0, n, 0, 0, n + 1, -3, n + 4, n + 33, 7, n + 90, -(n + 9), 2, 0, 1500}, -15, n % 4);
+                     {1, 0, n, 0, 0, n + 1, -3, n + 4, n + 33, 7, n + 90, -(n + 9), 2, 0, 1500, 0}, -15,
+                     n % 5 == 4 ? -44 : n % 5);
       ASSERT_TRUE(block.GuardsIntact()) << F::kName << ", " << n << " taps";
       EXPECT_EQ(F::Free(state), StatusOk);
     }
@@ -133,6 +135,29 @@ TEST_P(FirIntegerTest, LongFiltersAndLongBlocksInPlace) {
       FIRIntState* state = nullptr;
       ASSERT_EQ(F::InitAlloc(&state, taps.data(), n, 0, nullptr), StatusOk);
       CheckStream<F>(state, taps, none, {-4500, 0, 300}, 0, 18);
+      EXPECT_EQ(F::Free(state), StatusOk);
+    }
+  });
+}
+
+TEST_P(FirIntegerTest, TapsAndDelayLineCanBeReplaced) {
+  ForEachFilter([&](auto filter) {
+    using F = decltype(filter);
+    using Data = typename F::Data;
+    for (int n : {1, 9, 80}) {
+      const auto size = static_cast<size_t>(n);
+      const auto first = StoredTaps<F>(n, 35);
+      const auto history = RandomArray<Data>(size, 36);
+      FIRIntState* state = nullptr;
+      ASSERT_EQ(F::InitAlloc(&state, first.data(), n, -15, history.data()), StatusOk);
+      CheckStream<F>(state, first, history, {50, 0, 0}, -15, 1);
+      const auto taps = StoredTaps<F>(n, 37);
+      const auto other = RandomArray<Data>(size, 38);
+      ASSERT_EQ(F::SetTaps(taps.data(), state, -17), StatusOk);
+      ASSERT_EQ(F::SetDelay(state, other.data()), StatusOk);
+      CheckStream<F>(state, taps, other, {0, 70, -20, 0}, -17, 0);
+      ASSERT_EQ(F::SetDelay(state, nullptr), StatusOk);
+      CheckStream<F>(state, taps, std::vector<Data>(size), {70, 0}, -17, 0);
       EXPECT_EQ(F::Free(state), StatusOk);
     }
   });
@@ -172,11 +197,11 @@ TEST_P(FirIntegerTest, ScalingAtTiesAndExtremes) {
 TEST_P(FirIntegerTest, TapsAreShiftedTo16Bits) {
   Orb32s factor = 0;
   FIRIntState* state = nullptr;
-  const Orb16s narrow[3] = {-32768, -3, 5};
+  const Orb16s narrow[3] = {-3, 5, -32768};
   Orb16s gotNarrow[3];
   ASSERT_EQ(legacy90orbsFIRInitAlloc_16s(&state, narrow, 3, -15, nullptr), StatusOk);
   ASSERT_EQ(legacy90orbsFIRGetTaps_16s(state, gotNarrow, &factor), StatusOk);
-  EXPECT_EQ(std::vector<int>(gotNarrow, gotNarrow + 3), (std::vector<int>{-16384, -2, 2}));
+  EXPECT_EQ(std::vector<int>(gotNarrow, gotNarrow + 3), (std::vector<int>{-2, 2, -16384}));
   EXPECT_EQ(factor, -14);
   const Orb16s inRange[3] = {-32767, 1, 2};
   ASSERT_EQ(legacy90orbsFIRSetTaps_16s(inRange, state, 4), StatusOk);
@@ -219,9 +244,10 @@ TEST_P(FirIntegerTest, FloatTapsAreQuantised) {
     Orb32f tap;
     Orb32s stored;
     Orb32s factor;
-  } rows[] = {{1.0f, 16384, -14},   {0.9f, 29491, -15},   {-0.9f, -29491, -15},
-              {40000.0f, 20000, 1}, {32767.0f, 32767, 0}, {0.0f, 0, -33},
-              {2.5f, 20480, -13},   {1e-6f, 8590, -33},   {16383.5f, 16384, 0}};
+  } rows[] = {{1.0f, 16384, -14},          {0.9f, 29491, -15},   {-0.9f, -29491, -15},
+              {40000.0f, 20000, 1},        {32767.0f, 32767, 0}, {0.0f, 0, -33},
+              {2.5f, 20480, -13},          {1e-6f, 8590, -33},   {16383.5f, 16384, 0},
+              {20000 * 0x1p33f, 20000, 33}};
   for (const auto& row : rows) {
     FIRIntState* state = nullptr;
     Orb32s stored = 0;
@@ -253,6 +279,58 @@ TEST_P(FirIntegerTest, FloatTapsAreQuantised) {
   const Orb32fc wild[2] = {{INFINITY, NAN}, {-3e38f, 1}};
   ASSERT_EQ(legacy90orbsFIRSetTaps32sc_16sc32fc(wild, state), StatusOk);
   legacy90orbsFIRFree32sc_16sc(state);
+}
+
+// The forms with floating-point taps; the states are those of 32-bit taps.
+struct Quantised {
+  using Base = Filter32s;
+  using Given = Orb32f;
+  static constexpr auto* Init = legacy90orbsFIRInit32s_16s32f;
+  static constexpr auto* SetTaps = legacy90orbsFIRSetTaps32s_16s32f;
+};
+struct QuantisedComplex {
+  using Base = Filter32sc;
+  using Given = Orb32fc;
+  static constexpr auto* Init = legacy90orbsFIRInit32sc_16sc32fc;
+  static constexpr auto* SetTaps = legacy90orbsFIRSetTaps32sc_16sc32fc;
+};
+
+TEST_P(FirIntegerTest, FiltersWithQuantisedTaps) {
+  const auto check = [&](auto form) {
+    using Q = decltype(form);
+    using F = typename Q::Base;
+    using Data = typename F::Data;
+    constexpr int kTaps = 22;
+    constexpr int kParts = std::is_class_v<Data> ? 2 : 1;
+    const auto history = RandomArray<Data>(kTaps, 71);
+    Orb32s size = 0;
+    ASSERT_EQ(F::Size(kTaps, &size), StatusOk);
+    GuardedArray<unsigned char> block(static_cast<size_t>(size));
+    FIRIntState* state = nullptr;
+    for (bool again : {false, true}) {
+      auto given = RandomArray<typename Q::Given>(kTaps, again ? 72 : 73, again ? 1000 : 0.01);
+      // The largest is a part of odd index.
+      Orb32f* const parts = reinterpret_cast<Orb32f*>(given.data());
+      parts[kTaps * kParts - 1] = again ? -5000.0f : 0.05f;
+      if (again) {
+        ASSERT_EQ(Q::SetTaps(given.data(), state), StatusOk);
+        ASSERT_EQ(F::SetDelay(state, history.data()), StatusOk);
+      } else {
+        ASSERT_EQ(Q::Init(&state, given.data(), kTaps, history.data(), block.data()), StatusOk);
+      }
+      std::vector<typename F::Tap> stored(kTaps);
+      Orb32s factor = 0;
+      ASSERT_EQ(F::GetTaps(state, stored.data(), &factor), StatusOk);
+      EXPECT_EQ(factor, again ? -2 : -19);
+      const auto* whole = reinterpret_cast<const Orb32s*>(stored.data());
+      for (int k = 0; k < kTaps * kParts; ++k)
+        ASSERT_NEAR(whole[k], std::ldexp(double{parts[k]}, -factor), 0.5) << "part " << k;
+      CheckStream<F>(state, stored, history, {0, 100, 0, -30}, factor, factor + 17);
+      ASSERT_TRUE(block.GuardsIntact());
+    }
+  };
+  check(Quantised{});
+  check(QuantisedComplex{});
 }
 
 TEST_P(FirIntegerTest, Statuses) {
@@ -304,17 +382,20 @@ TEST_P(FirIntegerTest, Statuses) {
 TEST_P(FirIntegerTest, SizesByVariant) {
   const bool px = GetParam() == Variant::px;
   const bool avx = GetParam() == Variant::g9 || GetParam() == Variant::h9;
-  const auto size = [](auto query) {
+  const auto sizes = [](auto query) {  // the sum of those of 1 to 40 taps
     Orb32s bytes = 0;
-    EXPECT_EQ(query(21, &bytes), StatusOk);
-    return bytes;
+    EXPECT_EQ(query(std::numeric_limits<Orb32s>::max(), &bytes), StatusOk);
+    EXPECT_EQ(bytes, std::numeric_limits<Orb32s>::max());
+    Orb32s sum = 0;
+    for (Orb32s n = 1; n <= 40; ++n, sum += bytes) EXPECT_EQ(query(n, &bytes), StatusOk);
+    return sum;
   };
-  const Orb32s more = avx ? 512 : 0;
-  EXPECT_EQ(size(legacy90orbsFIRGetStateSize_16s), px ? 16848 : 16944 + more);
-  EXPECT_EQ(size(legacy90orbsFIRGetStateSize32s_16s), px ? 16896 : 16992 + more);
-  EXPECT_EQ(size(legacy90orbsFIRGetStateSize32s_16s32f), px ? 16896 : 16992 + more);
-  EXPECT_EQ(size(legacy90orbsFIRGetStateSize32sc_16sc), px ? 16928 : 17264 + more);
-  EXPECT_EQ(size(legacy90orbsFIRGetStateSize32sc_16sc32fc), px ? 16928 : 17264 + more);
+  const Orb32s more = avx ? 40 * 512 : 0;
+  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize_16s), px ? 673360 : 676160 + more);
+  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32s_16s), px ? 674960 : 677760 + more);
+  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32s_16s32f), px ? 674960 : 677760 + more);
+  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32sc_16sc), px ? 676640 : 689760 + more);
+  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32sc_16sc32fc), px ? 676640 : 689760 + more);
 }
 
 }  // namespace
