@@ -104,7 +104,7 @@ void CheckFormula(Function<Sample> triangle) {
   constexpr Orb32s kCount = Effort(2400, 600);
   std::vector<Sample> dst(kCount);
   for (double asym : asymmetries) {
-    for (double rFreq : {0.0, 1e-9, 0.00321, 0.25, 0.31, 0.4999999}) {
+    for (double rFreq : {0.0, 1e-9, 0.00321, 0.046875, 0.31, 0.4999999}) {
       for (double start : {0.0, 1.25, static_cast<double>(kLastPhase)}) {
         const Wave wave = {static_cast<double>(magn), static_cast<T>(rFreq), static_cast<T>(asym),
                            static_cast<T>(start)};
