@@ -74,7 +74,7 @@ void CheckFormula(Function<Sample> tone) {
                                      0.1250001, 0.3,  0.2499999, 0.25,   0.4999999};
   if (FormOf<Sample>::kComplex) frequencies.insert(frequencies.end(), {0.5, 0.6250001, 0.9999999});
   const auto magn = static_cast<Part<Sample>>(31234);
-  constexpr size_t kCount = Effort(2900, 1900);  // the last block with segments of full length
+  constexpr size_t kCount = Effort(2900, 1600);  // the last block with segments of full length
   std::vector<Sample> dst(kCount);
   for (double frequency : frequencies) {
     const auto rFreq = static_cast<T>(frequency);
