@@ -42,6 +42,17 @@ double Distance(Sample a, Sample b) {
   }
 }
 
+// Whether y is a value within `error` of the exact one, delivered as the direct forms do: 16 bits cut toward
+// zero.
+template <class Part>
+bool IsDelivered(Part y, long double exact, long double error) {
+  if constexpr (std::is_same_v<Part, Orb16s>) {
+    return y >= std::trunc(exact - error) && y <= std::trunc(exact + error);
+  } else {
+    return std::fabs(y - exact) <= error;
+  }
+}
+
 }  // namespace orbs::test
 
 #endif

@@ -44,12 +44,23 @@ Sample Exact(long double magn, double rFreq, double phase, long long n) {
   }
 }
 
-// What the header promises: of the magnitude, and one more where a value next to an integer is cut.
+// What the header promises, and the rounding to the type; 16-bit samples are cut after that.
 template <class Sample>
 double Tolerance(OrbAlgHint hint, double magn) {
   if (std::is_same_v<Part<Sample>, Orb64f>) return 1e-12 * magn;
-  const double error = (hint == HintFast ? 2e-5 : 1e-7) * magn;
-  return std::is_same_v<Part<Sample>, Orb16s> ? error + 1 : error;
+  if (hint == HintFast) return 2e-5 * magn;
+  return (std::is_same_v<Part<Sample>, Orb16s> ? 1e-10 : 1e-7) * magn;
+}
+
+template <class Sample>
+bool IsSample(Sample y, double magn, double rFreq, double phase, size_t n, OrbAlgHint hint) {
+  const double error = Tolerance<Sample>(hint, magn);
+  const auto exact = Exact<Orb64fc>(magn, rFreq, phase, static_cast<long long>(n));
+  if constexpr (FormOf<Sample>::kComplex) {
+    return IsDelivered(y.re, exact.re, error) && IsDelivered(y.im, exact.im, error);
+  } else {
+    return IsDelivered(y, exact.re, error);
+  }
 }
 
 class ToneTest : public ExportTest {};
@@ -58,11 +69,12 @@ ORBS_INSTANTIATE_VARIANTS(ToneTest);
 template <class Sample>
 void CheckFormula(Function<Sample> tone) {
   using T = Real<Sample>;
-  std::vector<double> frequencies = {0,         1e-9, 1e-4,      0.0123, 0.0625,   0.125,
+  // At 3e-4 the binary32 coefficient of the recurrence is as far off as it can be.
+  std::vector<double> frequencies = {0,         1e-9, 3e-4,      0.0123, 0.0625,   0.125,
                                      0.1250001, 0.3,  0.2499999, 0.25,   0.4999999};
   if (FormOf<Sample>::kComplex) frequencies.insert(frequencies.end(), {0.5, 0.6250001, 0.9999999});
   const auto magn = static_cast<Part<Sample>>(31234);
-  constexpr size_t kCount = Effort(2400, 1100);
+  constexpr size_t kCount = Effort(2900, 1600);  // the last block with segments of full length
   std::vector<Sample> dst(kCount);
   for (double frequency : frequencies) {
     const auto rFreq = static_cast<T>(frequency);
@@ -71,8 +83,7 @@ void CheckFormula(Function<Sample> tone) {
         T phase = start;
         ASSERT_EQ(tone(dst.data(), kCount, magn, rFreq, &phase, hint), StatusOk);
         for (size_t i = 0; i < kCount; ++i) {
-          ASSERT_LE(Distance(dst[i], Exact<Sample>(magn, rFreq, start, static_cast<long long>(i))),
-                    Tolerance<Sample>(hint, magn))
+          ASSERT_TRUE(IsSample(dst[i], magn, rFreq, start, i, hint))
               << "frequency " << rFreq << " phase " << start << " hint " << hint << " sample " << i;
         }
       }
@@ -100,9 +111,7 @@ void CheckLengths(Function<Sample> tone) {
       ASSERT_EQ(tone(dst.data(), length, magn, rFreq, &phase, hint), StatusOk);
       ASSERT_TRUE(dst.GuardsIntact()) << length;
       for (size_t i = 0; i < n; ++i) {
-        ASSERT_LE(Distance(dst[i], Exact<Sample>(magn, rFreq, 0.5, static_cast<long long>(i))),
-                  Tolerance<Sample>(hint, magn))
-            << length << " " << i;
+        ASSERT_TRUE(IsSample(dst[i], magn, rFreq, 0.5, i, hint)) << length << " " << i;
       }
     }
   }
@@ -124,7 +133,9 @@ TEST_P(ToneTest, TenMillionSamplesKeepFrequencyAndAmplitude) {
       ASSERT_EQ(legacy90orbsTone_Direct_32f(real.data(), kCount, 1, rFreq, &phase, hint), StatusOk);
       ASSERT_EQ(legacy90orbsTone_Direct_32fc(complex.data(), kCount, 1, rFreq, &phaseOfPairs, hint),
                 StatusOk);
-      const double tolerance = Tolerance<Orb32f>(hint, 1) + 1e-5;
+      // The recurrence of px runs on over all of them.
+      const double drift = GetParam() == Variant::px ? 1e-5 : 0;
+      const double tolerance = Tolerance<Orb32f>(hint, 1) + drift;
       for (Orb32s i = 0; i < kCount; i += 997) {
         const auto at = static_cast<size_t>(i);
         ASSERT_LE(Distance(real[at], Exact<Orb32f>(1, rFreq, 1, i)), tolerance) << rFreq << " " << i;
@@ -132,6 +143,23 @@ TEST_P(ToneTest, TenMillionSamplesKeepFrequencyAndAmplitude) {
       }
       EXPECT_EQ(phase, phaseOfPairs);
     }
+  }
+}
+
+// In binary64, where an angle that has lost bits on the way shows; a second call tells the stored phase.
+TEST_P(ToneTest, AMillionSamplesKeepEveryBitOfTheAngle) {
+  constexpr Orb32s kCount = Effort(1'000'000, 200'000);
+  constexpr Orb32s kMore = 100;
+  const double tolerance = GetParam() == Variant::px ? 1e-8 : 1e-12;
+  std::vector<Orb64f> dst(kCount + kMore);
+  for (const Orb64f rFreq : {0.4567891234567, 0.0123456789}) {
+    Orb64f phase = 1;
+    legacy90orbsTone_Direct_64f(dst.data(), kCount, 1, rFreq, &phase, HintNone);
+    legacy90orbsTone_Direct_64f(dst.data() + kCount, kMore, 1, rFreq, &phase, HintNone);
+    for (Orb32s i = 0; i < kCount; i += 997)
+      ASSERT_NEAR(dst[static_cast<size_t>(i)], Exact<Orb64f>(1, rFreq, 1, i), tolerance) << rFreq << " " << i;
+    for (Orb32s i = kCount; i < kCount + kMore; ++i)
+      ASSERT_NEAR(dst[static_cast<size_t>(i)], Exact<Orb64f>(1, rFreq, 1, i), 2e-12) << rFreq << " " << i;
   }
 }
 
