@@ -1,9 +1,9 @@
 // The recursion of orders from 3 up: look-ahead as in look_ahead.h, in binary64.
 //
 // Poles that lie close together, as those of low-passes do, make rows that are large and nearly cancel. In
-// binary32 the results of a Butterworth filter of order 5 with its cut-off at 1/40 of the sample rate were off
-// by a third of full scale, where single samples are off by 60 units. In binary64 they are off by 10: what is
-// left is the rounding of the numerators and of the delay line between calls.
+// binary32 the results of a Butterworth filter of order 5 with its cut-off at 1/40 of the sample rate were
+// off by a third of full scale, where single samples are off by 60 units. In binary64 they are off by 10:
+// what is left is the rounding of the numerators and of the delay line between calls.
 //
 // The table holds rows of kRowElements results. A round makes two vectors; both depend on the results before
 // the round alone, so that one wait for a sum yields all of them. Where two vectors have more results than
@@ -97,6 +97,8 @@ class LongRecursion {
   static constexpr int kRoundParts = kRound * kParts;
   static constexpr int kTableRow = kRowElements * kParts;
   static constexpr int kMostOrders = kIirPiece / 4;
+  // Rows that reach from one vector into the next.
+  static constexpr int kReach = kElements < kNear ? kElements : kNear;
   using Sum = WideSum<kParts>;
 
   // A complex product uses a row twice.
@@ -165,8 +167,7 @@ class LongRecursion {
     LoadWiden(w + kLanes, &w1);
     const F64 v0 = Within(w0);
     auto second = Sum::From(Within(w1));
-    ForConstants < kElements<kNear ? kElements : kNear>(
-                       [&](auto k) { second.template AddElement<kElements - 1 - k>(v0, Row(k, 0)); });
+    ForConstants<kReach>([&](auto k) { second.template AddElement<kElements - 1 - k>(v0, Row(k, 0)); });
     // The past, the oldest results first; two sums for each vector keep the multiply-adders busy.
     Sum sum[2][2] = {{Sum::From(v0), Sum::From(F64::Zero())},
                      {Sum::From(second.Value()), Sum::From(F64::Zero())}};
