@@ -13,11 +13,13 @@ if(NOT "px" IN_LIST ORBS_VARIANTS)
   message(FATAL_ERROR "ORBS_VARIANTS: px, the reference, cannot be left out")
 endif()
 
+set(ORBS_OPTIMIZATION -O2 CACHE STRING "Optimization level of the library, whatever the build type")
+
 # What all code of the library has in common. Contraction is off since a fused multiply-add is written where it is meant;
 # errno is nobody's channel here, and without it roots and conversions compile to single instructions.
 set(ORBS_COMPILE_OPTIONS
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wmissing-declarations -Werror
-    -O2 -ffp-contract=off -fno-math-errno -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-semantic-interposition)
+    ${ORBS_OPTIMIZATION} -ffp-contract=off -fno-math-errno -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-semantic-interposition)
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   # The oldest processor that has x87. px must run where CPUID finds nothing.
