@@ -19,7 +19,8 @@ set(ORBS_OPTIMIZATION -O2 CACHE STRING "Optimization level of the library, whate
 # errno is nobody's channel here, and without it roots and conversions compile to single instructions.
 set(ORBS_COMPILE_OPTIONS
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wmissing-declarations -Werror
-    ${ORBS_OPTIMIZATION} -ffp-contract=off -fno-math-errno -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-semantic-interposition)
+    ${ORBS_OPTIMIZATION} -ffp-contract=off -fno-math-errno -fno-exceptions -fno-rtti -fno-threadsafe-statics
+    -fno-semantic-interposition)
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   # The oldest processor that has x87. px must run where CPUID finds nothing.

@@ -74,7 +74,6 @@ struct RowSum<1> {
   static ORBS_INLINE RowSum Of(Factor<1> f, F32 row) { return {f.re * row}; }
   static ORBS_INLINE RowSum From(F32 start) { return {start}; }
   ORBS_INLINE void Add(Factor<1> f, F32 row) { a = MulAdd(f.re, row, a); }
-  ORBS_INLINE void Add(RowSum other) { a = a + other.a; }
   ORBS_INLINE F32 Value() const { return a; }
 };
 template <>
@@ -86,10 +85,6 @@ struct RowSum<2> {
   ORBS_INLINE void Add(Factor<2> f, F32 row) {
     a = MulAdd(f.re, row, a);
     b = MulAdd(f.im, row, b);
-  }
-  ORBS_INLINE void Add(RowSum other) {
-    a = a + other.a;
-    b = b + other.b;
   }
   ORBS_INLINE F32 Value() const { return AddRotated(a, b); }
 };
