@@ -24,9 +24,11 @@ set(ORBS_COMPILE_OPTIONS
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   # The oldest processor that has x87. px must run where CPUID finds nothing.
-  set(ORBS_BASELINE_FLAGS -march=i486 -mtune=generic -mno-mmx -mno-sse -mfpmath=387)
-  # Old callers align the stack to 4 bytes only; vectors on it need 16.
-  set(ORBS_VECTOR_BASELINE_FLAGS -march=i686 -mtune=generic -mfpmath=sse -mstackrealign)
+  # Old callers align the stack to 4 bytes only; vectors on it need 16, and so does the C library. -mstackrealign would not
+  # do: in functions with vectors of 32 bytes it takes for granted that their callers align to 16.
+  set(from_any_stack -mincoming-stack-boundary=2)
+  set(ORBS_BASELINE_FLAGS -march=i486 -mtune=generic -mno-mmx -mno-sse -mfpmath=387 ${from_any_stack})
+  set(ORBS_VECTOR_BASELINE_FLAGS -march=i686 -mtune=generic -mfpmath=sse ${from_any_stack})
 else()
   set(ORBS_BASELINE_FLAGS -march=x86-64 -mtune=generic)
   set(ORBS_VECTOR_BASELINE_FLAGS ${ORBS_BASELINE_FLAGS})

@@ -4,6 +4,7 @@
 #define ORBS_FRAME_ROUND_SCALED_H
 
 #include "frame/blocks.h"
+#include "frame/scaling.h"
 #include "frame/simd.h"
 #include "orbs90lgc/types.h"
 
@@ -100,12 +101,18 @@ void RoundScaled(const Orb64f* src, Orb16s* dst, size_t n, Scale scale) {
       dst, src);
 }
 
-// The same for a factor that is one number of the type.
+// The same for a factor that is one number of the type. The functions of this file take their factors as
+// numbers and broadcast them inside, where the compiler moves that out of the loop (see "vectors never cross
+// a call" in simd.h).
 template <Orb32s kMode, class Float, class Integer>
 void RoundTimes(const Float* src, Integer* dst, size_t n, Float factor) {
   using V = VectorOf<Float>;
-  const V f = V::All(factor);
-  RoundScaled<kMode>(src, dst, n, [f](V x) { return x * f; });
+  RoundScaled<kMode>(src, dst, n, [factor](V x) { return x * V::All(factor); });
+}
+
+template <class Float>
+ORBS_INLINE VectorOf<Float> Times(VectorOf<Float> x, PowerOfTwo<Float> factor) {
+  return x * VectorOf<Float>::All(factor.first) * VectorOf<Float>::All(factor.second);
 }
 
 }  // namespace orbs::ORBS_VARIANT

@@ -91,11 +91,11 @@ ORBS_INLINE IntegerParts<T, Int> SourceOf(Parts<Int> x) {
 }
 template <class T, class Int>
 ORBS_INLINE RoundedPairs<T, Int> ResultOf(Pairs<Int> x, Orb32s scaleFactor) {
-  return {x.dst, VectorFactor<T>(scaleFactor)};
+  return {x.dst, InversePowerOfTwo<T>(scaleFactor)};
 }
 template <class T, class Int>
 ORBS_INLINE RoundedParts<T, Int> ResultOf(Parts<Int> x, Orb32s scaleFactor) {
-  return {x.dstRe, x.dstIm, VectorFactor<T>(scaleFactor)};
+  return {x.dstRe, x.dstIm, InversePowerOfTwo<T>(scaleFactor)};
 }
 
 template <bool kForward, class Data, class Plan>

@@ -22,28 +22,16 @@ struct IntegerParts {
 };
 
 // Results; numbers of T, times the factor, are rounded to nearest.
-template <class T>
-struct VectorFactor {
-  VectorOf<T> first;
-  VectorOf<T> second;
-
-  ORBS_INLINE explicit VectorFactor(Orb32s scaleFactor) {
-    const PowerOfTwo<T> factor = InversePowerOfTwo<T>(scaleFactor);
-    first = VectorOf<T>::All(factor.first);
-    second = VectorOf<T>::All(factor.second);
-  }
-  ORBS_INLINE VectorOf<T> operator()(VectorOf<T> v) const { return v * first * second; }
-};
 template <class T, class Int>
 struct RoundedPairs {
   Int* pairs;
-  VectorFactor<T> factor;
+  PowerOfTwo<T> factor;
 };
 template <class T, class Int>
 struct RoundedParts {
   Int* re;
   Int* im;
-  VectorFactor<T> factor;
+  PowerOfTwo<T> factor;
 };
 
 // ---- A vector of pairs at point i ----
@@ -72,11 +60,11 @@ ORBS_INLINE F64 LoadPoints(IntegerParts<Orb64f, Orb32s> data, size_t i) {
 
 template <class T, class Int>
 ORBS_INLINE void StorePoints(RoundedPairs<T, Int> data, size_t i, VectorOf<T> v) {
-  StoreSaturated<RoundNear>(data.pairs + 2 * i, data.factor(v));
+  StoreSaturated<RoundNear>(data.pairs + 2 * i, Times<T>(v, data.factor));
 }
 template <class T, class Int>
 ORBS_INLINE void StorePoints(RoundedParts<T, Int> data, size_t i, VectorOf<T> v) {
-  StoreSaturatedPairs(data.re + i, data.im + i, data.factor(v));
+  StoreSaturatedPairs(data.re + i, data.im + i, Times<T>(v, data.factor));
 }
 
 }  // namespace orbs::ORBS_VARIANT

@@ -90,7 +90,7 @@ void ForwardFloat(const Source* src, Result* dst, Orb32s n, Orb32s scaleFactor, 
   Result rounded[4];
   Narrow(points, rounded, 4, scaleFactor);
   Result* const pairs = dst + kFirstPairAt<layout>;
-  SplitPairsForward(Interleaved<T>{data + 2}, RoundedPairs<T, Result>{pairs, VectorFactor<T>(scaleFactor)},
+  SplitPairsForward(Interleaved<T>{data + 2}, RoundedPairs<T, Result>{pairs, InversePowerOfTwo<T>(scaleFactor)},
                     plan->order, plan->tables.realFwdTw.In(plan));
   PutRealPoints<layout, Result>(dst, n, {rounded[0], rounded[1]});
   pairs[n / 2 - 2] = rounded[2];
@@ -119,7 +119,7 @@ void InverseFloat(const Source* src, Result* dst, Orb32s n, Orb32s scaleFactor, 
   T* const work = data + n;
   const bool onePass = plan->order - 1 <= Pick<T>(kFftTuning.onePassCeiling);
   TransformBetween<false>(*plan, plan->order - 1, Interleaved<const T>{data},
-                          RoundedPairs<T, Result>{dst, VectorFactor<T>(scaleFactor)}, onePass ? work : data,
+                          RoundedPairs<T, Result>{dst, InversePowerOfTwo<T>(scaleFactor)}, onePass ? work : data,
                           work);
 }
 

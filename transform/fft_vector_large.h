@@ -86,14 +86,15 @@ constexpr size_t ReverseTileBits(size_t value) {
 // The tile with number `middle` (the index bits between the top and the bottom five): its groups of 8 points
 // through the butterfly into `tile`, reversed within the tile.
 template <bool kForward, class Data, class T>
-void ReadTile(Data src, size_t n, size_t middle, VectorOf<T> scale, T* tile) {
+void ReadTile(Data src, size_t n, size_t middle, T scale, T* tile) {
+  const VectorOf<T> factor = VectorOf<T>::All(scale);
   constexpr size_t kWidth = static_cast<size_t>(kPairs<T>);
   for (size_t row = 0; row < kTileSide / 8; ++row) {
     const size_t column = 8 * kReversedDigit[4][row];
     for (size_t i = 0; i < kTileSide; i += kWidth) {
       T* place = tile + 2 * (ReverseTileBits(i) * kTileSide + column);
       FirstButterfly<8, kForward>(src, row * (n / kTileSide) + middle * kTileSide + i, n / 8, place,
-                                  kTilePoints / kWidth, scale);
+                                  kTilePoints / kWidth, factor);
     }
   }
 }
@@ -123,16 +124,15 @@ bool SameArray(Split<const T> a, Split<T> b) {
 
 template <bool kForward, class Source, class Result, class T>
 void LargeFirstPass(Source src, Result dst, size_t n, T scale, T* work) {
-  const VectorOf<T> factor = VectorOf<T>::All(scale);
   const size_t tiles = n / kTilePoints;
   const bool inPlace = SameArray(src, dst);
   size_t reversed = 0;
   for (size_t middle = 0; middle < tiles; ++middle) {
     if (!inPlace || middle <= reversed) {
       T* other = work + 2 * kTilePoints;
-      ReadTile<kForward>(src, n, middle, factor, work);
+      ReadTile<kForward>(src, n, middle, scale, work);
       if (inPlace && middle != reversed) {
-        ReadTile<kForward>(src, n, reversed, factor, other);
+        ReadTile<kForward>(src, n, reversed, scale, other);
         WriteTile(dst, n, middle, other);
       }
       WriteTile(dst, n, reversed, work);

@@ -3,7 +3,16 @@
 #ifndef ORBS_FRAME_SIMD_SSE_H
 #define ORBS_FRAME_SIMD_SSE_H
 
+// The narrowest header of the level: the one for all of them takes half a second in every file.
+#if defined(__AVX__)
 #include <immintrin.h>
+#elif defined(__SSE4_1__)
+#include <smmintrin.h>
+#elif defined(__SSSE3__)
+#include <tmmintrin.h>
+#else
+#include <emmintrin.h>
+#endif
 
 #include "frame/variant.h"
 #include "orbs90lgc/types.h"

@@ -17,12 +17,10 @@ template <Orb32s kMode, class Source, class Result>
 void ScaleToInts(const Source* src, Result* dst, size_t n, Orb32s s) {
   using Vector = VectorOf<Source>;
   const PowerOfTwo<Source> factor = InversePowerOfTwo<Source>(s);
-  const Vector first = Vector::All(factor.first);
   if (factor.second == 1) {
-    RoundScaled<kMode>(src, dst, n, [first](Vector x) { return x * first; });
+    RoundTimes<kMode>(src, dst, n, factor.first);
   } else {
-    const Vector second = Vector::All(factor.second);
-    RoundScaled<kMode>(src, dst, n, [first, second](Vector x) { return x * first * second; });
+    RoundScaled<kMode>(src, dst, n, [factor](Vector x) { return Times<Source>(x, factor); });
   }
 }
 
