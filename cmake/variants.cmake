@@ -39,9 +39,11 @@ set(ORBS_FLAGS_w7 ${ORBS_VECTOR_BASELINE_FLAGS} -msse2)
 set(ORBS_FLAGS_v8 ${ORBS_VECTOR_BASELINE_FLAGS} -mssse3)
 set(ORBS_FLAGS_s8 ${ORBS_VECTOR_BASELINE_FLAGS} -mssse3 -mmovbe -mtune=bonnell)
 set(ORBS_FLAGS_p8 ${ORBS_VECTOR_BASELINE_FLAGS} -msse4.1)  # selected on SSE4.1 alone, so nothing of SSE4.2
-# AVX implies POPCNT to the compiler, but the selection does not test for it.
-set(ORBS_FLAGS_g9 ${ORBS_VECTOR_BASELINE_FLAGS} -mavx -mno-popcnt)
-set(ORBS_FLAGS_h9 ${ORBS_VECTOR_BASELINE_FLAGS} -mavx2 -mfma -mbmi -mbmi2 -mno-popcnt)
+# AVX implies POPCNT to the compiler, but the selection does not test for it. GCC adds the vzeroupper that callers are owed
+# among its expensive optimizations, which -O1 leaves out.
+set(avx_flags -mno-popcnt $<$<CXX_COMPILER_ID:GNU>:-fexpensive-optimizations>)
+set(ORBS_FLAGS_g9 ${ORBS_VECTOR_BASELINE_FLAGS} -mavx ${avx_flags})
+set(ORBS_FLAGS_h9 ${ORBS_VECTOR_BASELINE_FLAGS} -mavx2 -mfma -mbmi -mbmi2 ${avx_flags})
 
 # orbs_add_variant(VARIANT SOURCE...): the object library orbs_VARIANT from the family sources.
 function(orbs_add_variant variant)

@@ -23,6 +23,8 @@
 #define ORBS_UNROLL _Pragma("GCC unroll 16")
 
 #define ORBS_INLINE inline __attribute__((always_inline))
+// The same for a closure, behind its parameters.
+#define ORBS_INLINE_CLOSURE __attribute__((always_inline))
 
 namespace orbs::ORBS_VARIANT {
 

@@ -60,7 +60,7 @@ ORBS_INLINE void ForRealPairs(Source src, Result dst, int order, const T* table,
   const size_t back = 2 * entries - 1 - kWidth;
   V a = LoadPoints(src, 0);
   V b = LoadPoints(src, back);
-  const auto pass = [&](size_t i, V entry) {  // the entries i on, which are k = i + 1 on
+  const auto pass = [&](size_t i, V entry) ORBS_INLINE_CLOSURE {  // the entries i on, which are k = i + 1 on
     const PairOfVectors<V> result = step(a, ReversePairs(b), entry);
     a = LoadPoints(src, i + kWidth);
     b = LoadPoints(src, back - i - kWidth);
