@@ -61,7 +61,8 @@ static void PrintVariant(void) {
   printf("Variant:   %s, version %s\n", version->name, version->version);
   printf("           chosen by the features of this processor: %s\n", ReasonFor(version->targetCpu));
   if (status == StatusNoCpuSupport) {
-    printf("           (the library was built for processors of another vendor; it works all the same)\n");
+    printf("           (status %d, a note: the vendor is not the expected one; all works the same)\n",
+           (int)status);
   }
 }
 

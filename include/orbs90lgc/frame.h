@@ -21,8 +21,10 @@ extern "C" {
  * Selects the variant for this processor. Optional, since the first call of any other function does it; may
  * be called any number of times and from any thread, with the same result.
  *
- * @return ::StatusOk; ::StatusNoCpuSupport when the processor cannot be identified or is not of the vendor
- * that the library was built for. The library is usable in both cases.
+ * @return ::StatusOk; ::StatusNoCpuSupport, which is a note and not an error, when the processor has no CPUID
+ * or not the vendor string that the library was built to expect. The variant is selected by the features
+ * alone, whatever the vendor, and every function works. What the note tells is that the library does not ask
+ * such a processor for the size of its cache, so that large fills do not bypass it.
  */
 OrbStatus legacy90orbsInit(void);
 
