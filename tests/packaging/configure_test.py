@@ -30,9 +30,10 @@ class Configure(unittest.TestCase):
 
     def expected_vendors(self):
         """What the compiler is given, wherever it is given any."""
+        option = '-DORBS_EXPECTED_VENDOR_ID='
         with open(os.path.join(self.build, 'compile_commands.json'), encoding='utf-8') as file:
             commands = [shlex.split(entry['command']) for entry in json.load(file)]
-        return {word.split('=')[1] for words in commands for word in words if word.startswith('-DORBS_EXPECTED_VENDOR_ID=')}
+        return {word[len(option):] for words in commands for word in words if word.startswith(option)}
 
     def asks_of_the_machine(self):
         """The project's own commands that could learn something about the building machine."""
@@ -60,6 +61,14 @@ class Configure(unittest.TestCase):
         result = self.configure('-DORBS_EXPECTED_VENDOR_ID=Eleven chrs')
         self.assertNotEqual(result.returncode, 0)
         self.assertIn('must have 12 characters', result.stderr)
+
+    def test_without_the_tests_the_first_program_is_one(self):
+        self.configure()
+        listed = subprocess.run([os.path.join(os.path.dirname(CMAKE), 'ctest'), '--test-dir', self.build, '-N'],
+                                capture_output=True, text=True, check=True).stdout
+        self.assertIn('readme.first_program', listed)
+        with open(os.path.join(self.build, 'build.ninja'), encoding='utf-8') as file:
+            self.assertRegex(file.read(), r'(?m)^build test:')
 
 
 if __name__ == '__main__':
