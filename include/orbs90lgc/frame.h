@@ -3,10 +3,10 @@
  * @brief Start-up, version and thread count.
  *
  * Every operation exists in seven variants, each for a level of the x86 instruction set: `px` (plain code),
- * `w7` (SSE2), `v8` (SSSE3), `s8` (SSSE3 with MOVBE, for in-order processors), `p8` (SSE4.1), `g9` (AVX),
- * `h9` (AVX2, FMA, BMI). The first call of any function selects the variant for the process; from then on a
- * call costs one load and one indirect jump more than a direct one. There is nothing to configure and nothing
- * to release.
+ * `w7` (SSE2), `v8` (SSSE3), `s8` (SSSE3, tuned for in-order processors, which MOVBE tells from others),
+ * `p8` (SSE4.1), `g9` (AVX), `h9` (AVX2, FMA, BMI). The first call of any function selects the variant for
+ * the process; from then on a call costs one load and one indirect jump more than a direct one. There is
+ * nothing to configure and nothing to release.
  */
 #ifndef ORBS90LGC_FRAME_H
 #define ORBS90LGC_FRAME_H
