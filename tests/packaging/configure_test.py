@@ -5,6 +5,7 @@ usage: configure_test.py CMAKE SOURCE_DIR C_COMPILER CXX_COMPILER
 """
 import json
 import os
+import re
 import shlex
 import subprocess
 import sys
@@ -69,6 +70,13 @@ class Configure(unittest.TestCase):
         self.assertIn('readme.first_program', listed)
         with open(os.path.join(self.build, 'build.ninja'), encoding='utf-8') as file:
             self.assertRegex(file.read(), r'(?m)^build test:')
+
+    def test_the_last_version_of_the_changelog_is_that_of_the_project(self):
+        self.configure()
+        with open(os.path.join(self.build, 'CMakeCache.txt'), encoding='utf-8') as file:
+            version = re.search(r'^CMAKE_PROJECT_VERSION:STATIC=(.*)', file.read(), re.MULTILINE)[1]
+        with open(os.path.join(SOURCE, 'CHANGELOG.md'), encoding='utf-8') as file:
+            self.assertEqual(re.findall(r'^## \[(\d.*)\] - ', file.read(), re.MULTILINE)[0], version)
 
 
 if __name__ == '__main__':

@@ -28,7 +28,7 @@ class Install(unittest.TestCase):
 
     def plant(self, prefix, elf_class):
         """The start of a library of that class, in the place of ours."""
-        path = BUILD.library(prefix) + '.9.0.0'
+        path = f'{BUILD.library(prefix)}.{BUILD.version}'
         os.makedirs(os.path.dirname(path))
         with open(path, 'wb') as file:
             file.write(b'\x7fELF' + bytes([elf_class, 1, 1]))

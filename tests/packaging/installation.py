@@ -34,6 +34,7 @@ class Build:
         self.cmake = cache['CMAKE_COMMAND']
         self.compiler = cache['CMAKE_C_COMPILER']
         self.flags = cache.get('CMAKE_C_FLAGS', '')
+        self.version = cache['CMAKE_PROJECT_VERSION']
         self.library_folder = cache['CMAKE_INSTALL_LIBDIR']
         self.emulator = [part for part in cache.get('CMAKE_CROSSCOMPILING_EMULATOR', '').split(';') if part]
         self.word_size = word_size(os.path.join(folder, 'liborbs90lgc.so'))
