@@ -10,3 +10,18 @@ add_custom_target(docs
     WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
     COMMENT "Making the reference"
     VERBATIM)
+
+if(ORBS_BUILD_TESTS)
+  add_test(NAME docs.reference COMMAND Doxygen::doxygen ${ORBS_DOCS_OUTPUT}/Doxyfile
+      WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
+
+  # The proof that a planted fault is found: one of two functions has no text. Doxygen says "error" only where it also
+  # ends with a failure.
+  set(planted ${ORBS_DOCS_OUTPUT}/planted)
+  file(WRITE ${planted}/planted.h "/** @file */\n/** Has a text. */\nint Told(void);\n\nint Untold(void);\n")
+  file(WRITE ${planted}/Doxyfile
+      "@INCLUDE = ${ORBS_DOCS_OUTPUT}/Doxyfile\nINPUT = ${planted}/planted.h\nOUTPUT_DIRECTORY = ${planted}\n"
+      "USE_MDFILE_AS_MAINPAGE =\n")
+  add_test(NAME docs.planted COMMAND Doxygen::doxygen ${planted}/Doxyfile WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
+  set_tests_properties(docs.planted PROPERTIES PASS_REGULAR_EXPRESSION "error: Member Untold")
+endif()

@@ -1,17 +1,16 @@
 # liborbs90lgc.so and, beside it, liborbs90lgc_pinnable.so from the same objects.
 
-# The vendor that Init expects: 12 characters, by default the vendor of the processor that runs the build.
-set(ORBS_EXPECTED_VENDOR_ID "" CACHE STRING "CPUID vendor string (12 characters); empty: that of the building machine")
-set(vendor "${ORBS_EXPECTED_VENDOR_ID}")
-if(vendor STREQUAL "")
-  file(STRINGS /proc/cpuinfo vendor REGEX "^vendor_id" LIMIT_COUNT 1)
-  string(REGEX REPLACE "^vendor_id[ \t]*: " "" vendor "${vendor}")
+# The vendor that Init expects. The default is fixed, so that the library is the same wherever it was built. It is the
+# one whose processors answer the CPUID leaves that frame/cache.cpp reads, 2 and 4, and no others are asked.
+if("$CACHE{ORBS_EXPECTED_VENDOR_ID}" STREQUAL "")
+  unset(ORBS_EXPECTED_VENDOR_ID CACHE)  # an empty one stands for the default
 endif()
-string(LENGTH "${vendor}" length)
+set(ORBS_EXPECTED_VENDOR_ID GenuineIntel CACHE STRING "CPUID vendor string that Init expects, 12 characters")
+string(LENGTH "${ORBS_EXPECTED_VENDOR_ID}" length)
 if(NOT length EQUAL 12)
-  message(FATAL_ERROR "ORBS_EXPECTED_VENDOR_ID must have 12 characters; '${vendor}' has ${length}")
+  message(FATAL_ERROR "ORBS_EXPECTED_VENDOR_ID must have 12 characters; '${ORBS_EXPECTED_VENDOR_ID}' has ${length}")
 endif()
-message(STATUS "Expected processor vendor: ${vendor}")
+message(STATUS "Expected processor vendor: ${ORBS_EXPECTED_VENDOR_ID}")
 
 foreach(variant IN LISTS ORBS_VARIANTS)
   orbs_add_variant(${variant} ${ORBS_VARIANT_SOURCES})
@@ -36,7 +35,7 @@ function(orbs_add_plain name)
 endfunction()
 
 orbs_add_plain(orbs_common ${ORBS_COMMON_SOURCES})
-target_compile_definitions(orbs_common PRIVATE ORBS_EXPECTED_VENDOR_ID="${vendor}")
+target_compile_definitions(orbs_common PRIVATE ORBS_EXPECTED_VENDOR_ID="${ORBS_EXPECTED_VENDOR_ID}")
 orbs_add_plain(orbs_boundary ${ORBS_BOUNDARY_SOURCES})
 orbs_add_plain(orbs_dispatch frame/dispatch.cpp)
 target_compile_definitions(orbs_dispatch PRIVATE ${entries})

@@ -11,8 +11,8 @@
  *
  * With the library and libsndfile installed:
  *
- *   cc -o biquad_equaliser biquad_equaliser.c failure.c speech.c \
- *      $(pkg-config --cflags --libs orbs90lgc sndfile) -lm
+ *   cc -o biquad_equaliser biquad_equaliser.c failure.c speech.c usage.c \
+ *     $(pkg-config --cflags --libs orbs90lgc sndfile) -lm
  */
 #include <math.h>
 #include <orbs90lgc.h>
@@ -22,6 +22,7 @@
 
 #include "failure.h"
 #include "speech.h"
+#include "usage.h"
 
 enum { kSections = 3, kTaps = 6 * kSections, kFractionalBits = 29 };
 
@@ -117,9 +118,9 @@ static double ParseGain(const char* text) {
 }
 
 int main(int argc, char** argv) {
-  if (argc != 2 && argc != 3 && argc != 6) {
-    Fail("usage: biquad_equaliser RECORDING [FOLDER [BASS MIDDLE TREBLE]]");
-  }
+  ReadUsage(argc, argv, "biquad_equaliser RECORDING [FOLDER [BASS MIDDLE TREBLE]]",
+            "Raises or lowers bass, middle and treble by gains in dB, by default 6, -4 and 5; writes\n"
+            "biquads.wav into the folder, by default the current one.");
   const char* folder = argc > 2 ? argv[2] : ".";
   double gains[kSections] = {6.0, -4.0, 5.0};
   for (int i = 0; argc == 6 && i < kSections; ++i) gains[i] = ParseGain(argv[3 + i]);

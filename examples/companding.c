@@ -9,7 +9,7 @@
  *
  * With the library and libsndfile installed:
  *
- *   cc -o companding companding.c failure.c levels.c speech.c \
+ *   cc -o companding companding.c failure.c levels.c speech.c usage.c \
  *     $(pkg-config --cflags --libs orbs90lgc sndfile) -lm
  */
 #include <orbs90lgc.h>
@@ -21,6 +21,7 @@
 #include "failure.h"
 #include "levels.h"
 #include "speech.h"
+#include "usage.h"
 
 typedef struct {
   const char* name;
@@ -61,7 +62,8 @@ static void PrintVariant(void) {
   printf("Variant:   %s, version %s\n", version->name, version->version);
   printf("           chosen by the features of this processor: %s\n", ReasonFor(version->targetCpu));
   if (status == StatusNoCpuSupport) {
-    printf("           (the library was built for processors of another vendor; it works all the same)\n");
+    printf("           (status %d, a note: the vendor is not the expected one; all works the same)\n",
+           (int)status);
   }
 }
 
@@ -96,7 +98,9 @@ static Orb16s* CodeAndDecode(const Law* law, const Speech* speech, const Orb16s*
 }
 
 int main(int argc, char** argv) {
-  if (argc < 2 || argc > 3) Fail("usage: companding RECORDING [FOLDER]");
+  ReadUsage(argc, argv, "companding RECORDING [FOLDER]",
+            "Codes the recording in A-law and mu-law and back; writes alaw.wav, mulaw.wav and the data of a\n"
+            "plot into the folder, by default the current one.");
   const char* folder = argc > 2 ? argv[2] : ".";
 
   const Speech speech = ReadSpeech(argv[1]);

@@ -13,7 +13,8 @@
  *
  * With the library and libsndfile installed:
  *
- *   cc -o equaliser equaliser.c failure.c speech.c $(pkg-config --cflags --libs orbs90lgc sndfile) -lm
+ *   cc -o equaliser equaliser.c failure.c speech.c usage.c \
+ *     $(pkg-config --cflags --libs orbs90lgc sndfile) -lm
  */
 #include <math.h>
 #include <orbs90lgc.h>
@@ -23,6 +24,7 @@
 
 #include "failure.h"
 #include "speech.h"
+#include "usage.h"
 
 enum {
   kShortBlock = 256, /* FIR_32f goes through the transform from 512 samples a call */
@@ -208,7 +210,9 @@ static void PrintFilter(const Taps* t, double low, double high, int rate) {
 }
 
 int main(int argc, char** argv) {
-  if (argc < 2 || argc == 4 || argc > 5) Fail("usage: equaliser RECORDING [FOLDER [LOW HIGH]]");
+  ReadUsage(argc, argv, "equaliser RECORDING [FOLDER [LOW HIGH]]",
+            "Passes the band from LOW to HIGH, in Hz and by default 300 to 3400; writes equalised.wav into\n"
+            "the folder, by default the current one.");
   const char* folder = argc > 2 ? argv[2] : ".";
   const double low = argc > 4 ? Frequency(argv[3]) : 300;
   double high = argc > 4 ? Frequency(argv[4]) : 3400;

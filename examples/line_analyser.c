@@ -12,7 +12,7 @@
  * With the library, libsndfile and libpng installed:
  *
  *   cc -o line_analyser line_analyser.c canvas.c dtmf.c envelope.c failure.c font.c frames.c picture.c \
- *     spectrogram.c speech.c $(pkg-config --cflags --libs orbs90lgc sndfile libpng) -lm
+ *     spectrogram.c speech.c usage.c $(pkg-config --cflags --libs orbs90lgc sndfile libpng) -lm
  */
 #include <math.h>
 #include <orbs90lgc.h>
@@ -27,6 +27,7 @@
 #include "picture.h"
 #include "spectrogram.h"
 #include "speech.h"
+#include "usage.h"
 
 enum {
   kBlock = 8000, /* frames read at a time */
@@ -136,7 +137,10 @@ static const char* BaseName(const char* path) {
 }
 
 int main(int argc, char** argv) {
-  if (argc < 2 || argc > 3) Fail("usage: line_analyser RECORDING [PICTURE]");
+  ReadUsage(argc, argv, "line_analyser RECORDING [PICTURE]",
+            "Finds the DTMF digits in the recording of a telephone line and draws it, by default as\n"
+            "line.png. Ends with status 0 when there were digits, 2 when there were none, 1 when it\n"
+            "failed.");
   const char* path = argc > 2 ? argv[2] : "line.png";
   const Recording recording = OpenLine(argv[1]);
   const double duration = (double)recording.frames / recording.rate;

@@ -11,7 +11,8 @@
  *
  * With the library and libsndfile installed:
  *
- *   cc -o spectrum spectrum.c failure.c speech.c $(pkg-config --cflags --libs orbs90lgc sndfile) -lm
+ *   cc -o spectrum spectrum.c failure.c speech.c usage.c \
+ *     $(pkg-config --cflags --libs orbs90lgc sndfile) -lm
  */
 #include <math.h>
 #include <orbs90lgc.h>
@@ -20,6 +21,7 @@
 
 #include "failure.h"
 #include "speech.h"
+#include "usage.h"
 
 enum {
   kHz = 25,      /* the points lie no farther apart than this, */
@@ -135,7 +137,9 @@ static void Report(const Transform* t, const Power* power, const Speech* speech,
 }
 
 int main(int argc, char** argv) {
-  if (argc < 2 || argc > 4) Fail("usage: spectrum RECORDING [FOLDER [NAME]]");
+  ReadUsage(argc, argv, "spectrum RECORDING [FOLDER [NAME]]",
+            "Averages the spectrum of the recording; writes it as NAME.tsv, by default spectrum.tsv, into\n"
+            "the folder, by default the current one.");
   const char* folder = argc > 2 ? argv[2] : ".";
   char fileName[256];
   const int nameLength = snprintf(fileName, sizeof fileName, "%s.tsv", argc > 3 ? argv[3] : "spectrum");

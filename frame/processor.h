@@ -64,7 +64,8 @@ bool SelectedFeatureTest(uint64_t bits);
 // selected in both cases.
 OrbStatus SelectForThisProcessor();
 
-// The vendor that the build was made for (12 characters).
+// The vendor that Init expects and whose processors are asked for their caches: 12 characters, set by the
+// build.
 extern const char kExpectedVendorId[kVendorIdLength + 1];
 
 }  // namespace orbs

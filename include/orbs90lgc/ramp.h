@@ -34,14 +34,31 @@ extern "C" {
  * values fit those bits are the same in all variants.
  * @{
  */
+
+/** 8-bit integers, 0 to 255. */
 OrbStatus legacy90orbsVectorRamp_8u(Orb8u* dst, Orb32s len, Orb32f offset, Orb32f slope);
+
+/** 8-bit integers, -128 to 127. */
 OrbStatus legacy90orbsVectorRamp_8s(Orb8s* dst, Orb32s len, Orb32f offset, Orb32f slope);
+
+/** 16-bit integers, 0 to 65535. */
 OrbStatus legacy90orbsVectorRamp_16u(Orb16u* dst, Orb32s len, Orb32f offset, Orb32f slope);
+
+/** 16-bit integers, -32768 to 32767. */
 OrbStatus legacy90orbsVectorRamp_16s(Orb16s* dst, Orb32s len, Orb32f offset, Orb32f slope);
+
+/** 32-bit integers, 0 to 2^32-1. */
 OrbStatus legacy90orbsVectorRamp_32u(Orb32u* dst, Orb32s len, Orb32f offset, Orb32f slope);
+
+/** 32-bit integers, -2^31 to 2^31-1. */
 OrbStatus legacy90orbsVectorRamp_32s(Orb32s* dst, Orb32s len, Orb32f offset, Orb32f slope);
+
+/** Binary32. */
 OrbStatus legacy90orbsVectorRamp_32f(Orb32f* dst, Orb32s len, Orb32f offset, Orb32f slope);
+
+/** Binary64. */
 OrbStatus legacy90orbsVectorRamp_64f(Orb64f* dst, Orb32s len, Orb32f offset, Orb32f slope);
+
 /** @} */
 
 /**
@@ -60,6 +77,8 @@ OrbStatus legacy90orbsVectorSlope_8s(Orb8s* dst, Orb32s len, Orb32f offset, Orb3
  * Jaehne chirp y[n] = `magn` sin(pi n^2 / (2 `len`)): its frequency grows linearly from 0 to half the
  * sampling rate. Rounded to the nearest integer, ties away from zero. `len` = 1 gives 0.
  *
+ * @param[out] dst receives the chirp
+ * @param len number of samples
  * @param magn peak value, 0 to 127
  */
 OrbStatus legacy90orbsVectorJaehne_8s(Orb8s* dst, Orb32s len, Orb8s magn);
@@ -72,6 +91,8 @@ OrbStatus legacy90orbsVectorJaehne_8s(Orb8s* dst, Orb32s len, Orb8s magn);
  * The results thus run from about -`magn` to 0, the negative ones seen modulo 2^32 at the upper end of the
  * range. Adding `magn` modulo 2^32 moves them to 0 ... `magn`.
  *
+ * @param[out] dst receives the chirp
+ * @param len number of samples
  * @param magn distance between the peaks, any value
  */
 OrbStatus legacy90orbsVectorJaehne_32u(Orb32u* dst, Orb32s len, Orb32u magn);

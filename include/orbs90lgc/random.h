@@ -47,9 +47,16 @@ extern "C" {
  * without a neighbour, where `len` is odd, is truncated in `s8`, `p8`, `g9` and `h9` as well.
  * @{
  */
+
+/** 16-bit integers. */
 OrbStatus legacy90orbsRandUniform_Direct_16s(Orb16s* dst, Orb32s len, Orb16s low, Orb16s high, Orb32u* seed);
+
+/** Binary32. */
 OrbStatus legacy90orbsRandUniform_Direct_32f(Orb32f* dst, Orb32s len, Orb32f low, Orb32f high, Orb32u* seed);
+
+/** Binary64. */
 OrbStatus legacy90orbsRandUniform_Direct_64f(Orb64f* dst, Orb32s len, Orb64f low, Orb64f high, Orb32u* seed);
+
 /** @} */
 
 /**
@@ -65,9 +72,16 @@ OrbStatus legacy90orbsRandUniform_Direct_64f(Orb64f* dst, Orb32s len, Orb64f low
  * refused; a negative `stdDev` mirrors.
  * @{
  */
+
+/** 16-bit integers. */
 OrbStatus legacy90orbsRandGauss_Direct_16s(Orb16s* dst, Orb32s len, Orb16s mean, Orb16s stdDev, Orb32u* seed);
+
+/** Binary32. */
 OrbStatus legacy90orbsRandGauss_Direct_32f(Orb32f* dst, Orb32s len, Orb32f mean, Orb32f stdDev, Orb32u* seed);
+
+/** Binary64. */
 OrbStatus legacy90orbsRandGauss_Direct_64f(Orb64f* dst, Orb32s len, Orb64f mean, Orb64f stdDev, Orb32u* seed);
+
 /** @} */
 
 #ifdef __cplusplus

@@ -20,8 +20,8 @@ enum {
   WarnSqrtNegative = 3,    /**< A source element of a square root was negative; its result is 0. */
   WarnLogZero = 7,         /**< The deciding bad element of a logarithm was 0. */
   WarnLogNegative = 8,     /**< The deciding bad element of a logarithm was negative. */
-  StatusNoCpuSupport = 20, /**< legacy90orbsInit() only: processor not identified or of another vendor; a
-                              variant was selected all the same. */
+  StatusNoCpuSupport = 20, /**< legacy90orbsInit() only, a note: processor not identified or not of the
+                              expected vendor. A variant was selected all the same; everything works. */
   WarnBitWidth = 27,       /**< A width was outside 0 to 32 and was limited. */
 
   StatusBadArgument = -5, /**< An index outside the state's delay line. */

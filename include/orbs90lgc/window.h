@@ -39,10 +39,19 @@ extern "C" {
  * the product to nearest, ties to even.
  * @{
  */
+
+/** Real. */
 OrbStatus legacy90orbsWinBlackmanQ15_16s(const Orb16s* src, Orb16s* dst, Orb32s len, Orb32s alphaQ15);
+
+/** Real, in place. */
 OrbStatus legacy90orbsWinBlackmanQ15_16s_I(Orb16s* srcDst, Orb32s len, Orb32s alphaQ15);
+
+/** Complex. */
 OrbStatus legacy90orbsWinBlackmanQ15_16sc(const Orb16sc* src, Orb16sc* dst, Orb32s len, Orb32s alphaQ15);
+
+/** Complex, in place. */
 OrbStatus legacy90orbsWinBlackmanQ15_16sc_I(Orb16sc* srcDst, Orb32s len, Orb32s alphaQ15);
+
 /** @} */
 
 /**
@@ -64,10 +73,19 @@ OrbStatus legacy90orbsWinBlackmanQ15_16s_ISfs(Orb16s* srcDst, Orb32s len, Orb32s
  * rounds to nearest, ties away from zero; the other variants round ties to even.
  * @{
  */
+
+/** Real. */
 OrbStatus legacy90orbsWinKaiserQ15_16s(const Orb16s* src, Orb16s* dst, Orb32s len, Orb32s alphaQ15);
+
+/** Real, in place. */
 OrbStatus legacy90orbsWinKaiserQ15_16s_I(Orb16s* srcDst, Orb32s len, Orb32s alphaQ15);
+
+/** Complex. */
 OrbStatus legacy90orbsWinKaiserQ15_16sc(const Orb16sc* src, Orb16sc* dst, Orb32s len, Orb32s alphaQ15);
+
+/** Complex, in place. */
 OrbStatus legacy90orbsWinKaiserQ15_16sc_I(Orb16sc* srcDst, Orb32s len, Orb32s alphaQ15);
+
 /** @} */
 
 #ifdef __cplusplus
