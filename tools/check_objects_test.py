@@ -1,17 +1,13 @@
 #!/usr/bin/env python3
-"""Plants faults in tiny objects and sees that check_variants.py finds each of them, and nothing in clean ones."""
+"""Plants faults in tiny objects and sees that check_objects finds each of them, and nothing in clean ones."""
 
 import argparse
 import os
 import subprocess
-import sys
 import tempfile
 import unittest
 
-import instruction_levels
-
-CHECKER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "check_variants.py")
-ENVIRONMENT = None  # the command line: compiler, nm, objdump
+ENVIRONMENT = None  # the command line: checker, compiler
 
 # What a clean object may hold: every kind of global symbol, inside the namespace. On i386 the variable makes the compiler
 # read the program counter through a routine that the objects share.
@@ -50,23 +46,24 @@ SYMBOLS = [
     ("px", 'namespace orbs::px { extern "C" int Stray(int x) { return x + 1; } }', "Stray: strong symbol outside orbs::px"),
     ("h9", "namespace orbs::g9 { int Other() { return 9; } }", "orbs::g9::Other(): strong symbol outside orbs::h9"),
     ("h9", "int Outside(); namespace orbs::h9 { extern int atLoad; int atLoad = Outside(); }",
-     "would run on every processor when the library is loaded"),
+     "would run on every processor that loads the library"),
 ]
 
-# Instructions: architecture, variant, those that belong to its level, and those above it with the level to be reported.
-INSTRUCTIONS = [
+# Instructions: architecture, variant, those that belong to its level, and those above it with the extension to be reported.
+LEVELS = [
     ("x86-64", "px",
      ["cmove %ecx,%eax", "nopl (%rax)", "rep bsf %ecx,%eax", "fcomi %st(1),%st", "sqrtps %xmm1,%xmm0",
-      "pextrw $1,%xmm0,%eax", "pause"],
-     {"vaddps %xmm0,%xmm1,%xmm2": "AVX", "fisttpll (%rax)": "SSE3", "haddps %xmm1,%xmm0": "SSE3", "cpuid": "CPUID",
-      "paddb %mm1,%mm0": "MMX", "sahf": "LAHF", "popcnt %ecx,%eax": "POPCNT"}),
+      "pextrw $1,%xmm0,%eax", "pause", "ud2", "endbr64"],
+     {"vaddps %xmm0,%xmm1,%xmm2": "AVX", "fisttpll (%rax)": "SSE3X87", "haddps %xmm1,%xmm0": "SSE3", "cpuid": "CPUID",
+      "paddb %mm1,%mm0": "MMX", "cvtpi2ps (%rax),%xmm0": "MMX", "sahf": "LAHF", "popcnt %ecx,%eax": "POPCNT",
+      "hlt": "system code", "in $1,%al": "system code", "lretq": "system code", ".byte 0x0f,0x04": "no known instruction"}),
     ("x86-64", "common", ["cpuid", "xgetbv", "movups %xmm0,(%rsp)"], {"pshufb %xmm1,%xmm0": "SSSE3"}),
     ("x86-64", "w7", ["pmuludq %xmm1,%xmm0"], {"movddup %xmm1,%xmm0": "SSE3"}),
     ("x86-64", "v8", ["pshufb %xmm1,%xmm0", "addsubps %xmm1,%xmm0"],
-     {"movbe (%rax),%ecx": "MOVBE", "pmovsxwd %xmm1,%xmm0": "SSE4.1", "pextrw $1,%xmm0,(%rax)": "SSE4.1"}),
-    ("x86-64", "s8", ["movbe (%rax),%ecx"], {"pminsd %xmm1,%xmm0": "SSE4.1"}),
+     {"movbe (%rax),%ecx": "MOVBE", "pmovsxwd %xmm1,%xmm0": "SSE4", "pextrw $1,%xmm0,(%rax)": "SSE4"}),
+    ("x86-64", "s8", ["movbe (%rax),%ecx"], {"pminsd %xmm1,%xmm0": "SSE4"}),
     ("x86-64", "p8", ["pmulld %xmm1,%xmm0", "ptest %xmm1,%xmm0"],
-     {"pcmpgtq %xmm1,%xmm0": "SSE4.2", "crc32b %cl,%eax": "SSE4.2", "popcnt %ecx,%eax": "POPCNT",
+     {"pcmpgtq %xmm1,%xmm0": "SSE42", "crc32b %cl,%eax": "SSE42", "popcnt %ecx,%eax": "POPCNT",
       "movbe (%rax),%ecx": "MOVBE"}),
     ("x86-64", "g9",
      ["vaddps %ymm0,%ymm1,%ymm2", "vpaddd %xmm0,%xmm1,%xmm2", "vpcmpgtq %xmm0,%xmm1,%xmm2", "vptest %ymm0,%ymm1",
@@ -75,58 +72,56 @@ INSTRUCTIONS = [
      {"vpaddd %ymm0,%ymm1,%ymm2": "AVX2", "vfmadd231ps %ymm0,%ymm1,%ymm2": "FMA", "vcvtph2ps %xmm0,%ymm1": "F16C",
       "vbroadcastss %xmm0,%ymm1": "AVX2", "vpbroadcastb %xmm0,%xmm1": "AVX2", "vinserti128 $1,%xmm0,%ymm1,%ymm2": "AVX2",
       "vpsllvd %xmm0,%xmm1,%xmm2": "AVX2", "vmovntdqa (%rax),%ymm0": "AVX2", "andn %eax,%ecx,%edx": "BMI1",
-      "shlx %eax,%ecx,%edx": "BMI2", "popcnt %ecx,%eax": "POPCNT"}),
+      "shlx %eax,%ecx,%edx": "BMI2", "popcnt %ecx,%eax": "POPCNT", "crc32b %cl,%eax": "SSE42"}),
     ("x86-64", "h9",
      ["vpaddd %ymm0,%ymm1,%ymm2", "vfmaddsub132pd %ymm0,%ymm1,%ymm2", "andn %eax,%ecx,%edx", "shlx %eax,%ecx,%edx",
-      "vpgatherdd %ymm0,(%rax,%ymm1),%ymm2"],
-     {"vaddps %zmm0,%zmm1,%zmm2": "AVX-512", "vaddps %ymm0,%ymm1,%ymm20": "AVX-512", "kmovw %eax,%k1": "AVX-512",
-      "vpsrld $3,(%rax),%ymm0": "AVX-512", "vcvtph2ps %xmm0,%ymm1": "F16C", "lzcnt %ecx,%eax": "LZCNT",
-      "movbe (%rax),%ecx": "MOVBE", "adcx %ecx,%eax": "ADX", "vpclmulqdq $1,%xmm0,%xmm1,%xmm2": instruction_levels.UNKNOWN}),
-    ("i386", "px", ["fucompp", "fnstsw %ax", "sahf", "bswap %eax", "xchg %ax,%ax"],
-     {"movss %xmm0,(%eax)": "SSE", "cvttsd2si %xmm0,%eax": "SSE2", "cmovne %ecx,%eax": "i686", "nopl (%eax)": "i686",
-      "fcomi %st(1),%st": "i686", "fcmove %st(1),%st": "i686", "emms": "MMX", "cmpxchg8b (%eax)": "i586",
-      "prefetchnta (%eax)": "SSE"}),
+      "vpgatherdd %ymm0,(%rax,%ymm1),%ymm2", "vzeroupper"],
+     {"vaddps %zmm0,%zmm1,%zmm2": "AVX512F_512", "vaddps %ymm0,%ymm1,%ymm20": "AVX512F_256", "kmovw %eax,%k1": "AVX512F_KOP",
+      "vpsrld $3,(%rax),%ymm0": "AVX512F_256", "vcvtph2ps %xmm0,%ymm1": "F16C", "lzcnt %ecx,%eax": "LZCNT",
+      "movbe (%rax),%ecx": "MOVBE", "adcx %ecx,%eax": "ADOX_ADCX", "vpclmulqdq $1,%xmm0,%xmm1,%xmm2": "PCLMULQDQ"}),
+    ("i386", "px", ["fucompp", "fnstsw %ax", "sahf", "bswap %eax", "xchg %ax,%ax", "rep bsf %ecx,%eax"],
+     {"movss %xmm0,(%eax)": "SSE", "cvttsd2si %xmm0,%eax": "SSE2", "cmovne %ecx,%eax": "CMOV", "nopl (%eax)": "FAT_NOP",
+      "fcomi %st(1),%st": "PPRO", "fcmove %st(1),%st": "FCMOV", "emms": "PENTIUMMMX", "cmpxchg8b (%eax)": "PENTIUMREAL",
+      "prefetchnta (%eax)": "SSE_PREFETCH", "bound %eax,(%ecx)": "system code"}),
     ("i386", "common", ["cpuid", "xgetbv"], {"movups %xmm0,(%esp)": "SSE"}),
     ("i386", "w7", ["cmovne %ecx,%eax", "addsd %xmm1,%xmm0"], {"pabsd %xmm1,%xmm0": "SSSE3"}),
-    ("i386", "h9", ["vpermq $1,%ymm0,%ymm1"], {"vaddps %zmm0,%zmm1,%zmm2": "AVX-512"}),
+    ("i386", "h9", ["vpermq $1,%ymm0,%ymm1", "vzeroupper"], {"vaddps %zmm0,%zmm1,%zmm2": "AVX512F_512"}),
 ]
 
 
-class CheckVariantsTest(unittest.TestCase):
+class CheckObjectsTest(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.object = os.path.join(folder.name, "planted.o")
 
-    def Compile(self, architecture, source):
+    def Compile(self, architecture, source, language="c++", options=()):
         bits = {"i386": ["-m32", "-march=i486"], "x86-64": ["-m64"]}[architecture]
-        options = ["-x", "c++", "-std=c++17", "-O2", "-fPIC", "-fno-exceptions", "-fno-rtti", "-fno-threadsafe-statics"]
-        subprocess.run([ENVIRONMENT.compiler, *bits, *options, "-c", "-", "-o", self.object], input=source, text=True,
-                       check=True)
+        if language == "c++":
+            options = ["-std=c++17", "-O2", "-fPIC", "-fno-exceptions", "-fno-rtti", "-fno-threadsafe-statics", *options]
+        command = [ENVIRONMENT.compiler, *bits, *options, "-x", language, "-c", "-", "-o", self.object]
+        subprocess.run(command, input=source, text=True, check=True)
 
     def Check(self, architecture, part):
-        tools = ["--nm", ENVIRONMENT.nm, "--objdump", ENVIRONMENT.objdump]
-        command = [sys.executable, "-B", CHECKER, "--arch", architecture, *tools, f"{part}={self.object}"]
+        command = [ENVIRONMENT.checker, "--arch", architecture, f"{part}={self.object}"]
         result = subprocess.run(command, text=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
         return result.returncode, result.stdout
 
-    def CheckSource(self, architecture, part, source):
-        self.Compile(architecture, source)
+    def CheckSource(self, architecture, part, source, **options):
+        self.Compile(architecture, source, **options)
         return self.Check(architecture, part)
 
-    def testInstructions(self):
-        for architecture, part, allowed, planted in INSTRUCTIONS:
-            source = CLEAN.format(variant=part, instructions=" ".join(f'asm("{text}");' for text in allowed))
-            with self.subTest(architecture=architecture, part=part):
-                code, report = self.CheckSource(architecture, part, source)
-                self.assertEqual((code, len(report.splitlines())), (0, 1), report)
-                functions = [f'void Planted{i}() {{ asm("{text}"); }}' for i, text in enumerate(planted)]
-                source = f"namespace orbs::{part} {{ {' '.join(functions)} }}"
-                code, report = self.CheckSource(architecture, part, source)
-                self.assertEqual((code, len(report.splitlines())), (1, 1 + len(planted)), report)
-                for i, level in enumerate(planted.values()):
-                    line = rf"{part}: {self.object}: orbs::{part}::Planted{i}\(\): '.*' needs {level}\n"
-                    self.assertRegex(report, line)
+    def AssertClean(self, outcome):
+        code, report = outcome
+        self.assertEqual((code, len(report.splitlines())), (0, 1), report)
+
+    def AssertFaults(self, outcome, faults):
+        """That the report has a line for each of these regular expressions, in this order, and no other."""
+        code, report = outcome
+        lines = report.splitlines()
+        self.assertEqual((code, len(lines)), (1, 1 + len(faults)), report)
+        for line, fault in zip(lines[1:], faults):
+            self.assertRegex(line, fault)
 
     def testSymbols(self):
         for part, planted, message in SYMBOLS:
@@ -135,26 +130,42 @@ class CheckVariantsTest(unittest.TestCase):
                 self.assertEqual(code, 1, report)
                 self.assertIn(message, report)
 
-    def testCodeThatTheLinkerMergesSuitsEveryProcessor(self):
+    def testLevels(self):
+        for architecture, part, allowed, planted in LEVELS:
+            source = CLEAN.format(variant=part, instructions=" ".join(f'asm("{text}");' for text in allowed))
+            with self.subTest(architecture=architecture, part=part):
+                self.AssertClean(self.CheckSource(architecture, part, source))
+                functions = [f'void Planted{i}() {{ asm("{text}"); }}' for i, text in enumerate(planted)]
+                source = f"namespace orbs::{part} {{ {' '.join(functions)} }}"
+                self.AssertFaults(
+                    self.CheckSource(architecture, part, source),
+                    [rf"^{part}: {self.object}: orbs::{part}::Planted{i}\(\): '.*' at 0x\w+ is above the level: {level}$"
+                     for i, level in enumerate(planted.values())])
+
+    def testPcThunks(self):
         name = "__x86.get_pc_thunk.ax"
         thunk = (f'asm(".section .text.{name}, \\"axG\\", @progbits, {name}, comdat\\n'
                  f'.globl {name}\\n{name}: cmove %ecx, %eax\\nret\\n.text");')
-        code, report = self.CheckSource("i386", "w7", thunk + "namespace orbs::w7 { void Planted() {} }")
-        self.assertEqual(code, 1, report)
-        self.assertRegex(report, r"__x86\.get_pc_thunk\.ax: 'cmove .*' needs i686")
+        # The linker merges them, so they must suit every processor.
+        self.AssertFaults(self.CheckSource("i386", "w7", thunk + "namespace orbs::w7 { void Planted() {} }"),
+                          [r"__x86\.get_pc_thunk\.ax: 'cmovz .*' at 0x0 is above the level: CMOV"])
 
-    def testNothingToCheckIsAFault(self):
+    def testWhatCannotBeCheckedIsAFault(self):
         for architecture, source, message in [
             ("x86-64", "namespace orbs::w7 { extern const int table; const int table = 1; }", "nothing to check"),
-            ("i386", "namespace orbs::w7 { void Planted() {} }", ": is elf32-i386, not elf64-x86-64"),
+            ("i386", "namespace orbs::w7 { void Planted() {} }", "is for another target: i386"),
         ]:
             with self.subTest(message=message):
                 self.Compile(architecture, source)
                 code, report = self.Check("x86-64", "w7")
                 self.assertEqual(code, 1, report)
                 self.assertIn(message, report)
+        self.Compile("x86-64", "namespace orbs::w7 { void Planted() {} }")
+        with open(self.object, "r+b") as file:
+            file.truncate(os.path.getsize(self.object) - 1)
+        self.assertEqual(self.Check("x86-64", "w7"), (2, f"check_objects: {self.object} is cut short\n"))
         os.remove(self.object)
-        self.assertNotEqual(self.Check("x86-64", "w7")[0], 0)
+        self.assertEqual(self.Check("x86-64", "w7"), (2, f"check_objects: {self.object} cannot be read\n"))
 
     def testReportIsShort(self):
         planted = " ".join(f"int Stray{i}() {{ return {i}; }}" for i in range(30))
@@ -162,12 +173,12 @@ class CheckVariantsTest(unittest.TestCase):
         lines = report.splitlines()
         self.assertEqual(len(lines), 20)
         self.assertEqual(lines[-1], "w7: and 12 more")
+        self.assertIn("30 faults", lines[0])
 
 
 if __name__ == "__main__":
     parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--checker", required=True)
     parser.add_argument("--compiler", default="c++")
-    parser.add_argument("--nm", default="nm")
-    parser.add_argument("--objdump", default="objdump")
     ENVIRONMENT, rest = parser.parse_known_args()
-    unittest.main(argv=sys.argv[:1] + rest)
+    unittest.main(argv=["check_objects_test"] + rest)
