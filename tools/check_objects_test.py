@@ -88,6 +88,46 @@ LEVELS = [
     ("i386", "h9", ["vpermq $1,%ymm0,%ymm1", "vzeroupper"], {"vaddps %zmm0,%zmm1,%zmm2": "AVX512F_512"}),
 ]
 
+# The code that a compiler moves out of a function, which still belongs to it.
+COLD = ".section .text.unlikely; .type {name}.cold,@function; {name}.cold: CODE; .text"
+
+
+def WithCold(code, cold):
+    return f"{code}; {COLD.replace('CODE', cold)}"
+
+
+# The stack on i386: functions that may stand, and functions with the alignment that they take for granted.
+ALIGNED_STACK = [
+    "push %ebp; mov %esp,%ebp; and $-16,%esp; sub $32,%esp; movaps %xmm0,(%esp); paddd -24(%ebp),%xmm0; leave; ret",
+    "and $-32,%esp; vmovdqa %ymm0,(%esp); vmovdqa %xmm0,32(%esp); ret",
+    "movups %xmm0,-16(%esp); lddqu -16(%esp),%xmm1; movss %xmm0,-4(%esp); movq %xmm0,-8(%esp); cvtps2pd -8(%esp),%xmm0; ret",
+    "vmovups %xmm0,-16(%esp); vaddps -16(%esp),%xmm0,%xmm0; vpaddd -16(%esp),%xmm0,%xmm0; ret",
+    "movaps (%eax),%xmm0; lea -16(%esp),%ecx; ret",
+    "mov %eax,%ebp; movaps (%ebp),%xmm0; ret",  # a register like any other
+    WithCold("and $-16,%esp; test %eax,%eax; je {name}.cold; ret", "movaps %xmm0,(%esp); ret"),
+]
+MISALIGNED_STACK = [
+    ("movaps %xmm0,-16(%esp); ret", 16),
+    ("addps 16(%esp),%xmm0; ret", 16),
+    ("pand 16(%esp),%xmm0; ret", 16),
+    ("mov %esp,%ebp; movdqa %xmm0,-24(%ebp); ret", 16),
+    ("vmovaps %xmm2,(%esp); ret", 16),
+    ("vmovntps %xmm2,(%esp); ret", 16),
+    ("and $-8,%esp; movaps %xmm0,(%esp); ret", 16),
+    ("and $-16,%esp; vmovdqa %ymm0,(%esp); ret", 32),
+    (WithCold("test %eax,%eax; je {name}.cold; ret", "movaps %xmm0,(%esp); ret"), 16),
+]
+
+
+def Assembly(architecture, functions):
+    """A source with these bodies as the functions orbs::h9::Case0() and so on."""
+    text = [".text"]
+    for i, body in enumerate(functions):
+        name = f"_ZN4orbs2h9{len(f'Case{i}')}Case{i}Ev"
+        body = body.format(name=name, a={"i386": "eax", "x86-64": "rax"}[architecture])
+        text += [f".p2align 4; .globl {name}; .type {name},@function", f"{name}: {body}"]
+    return "\n".join(text) + "\n"
+
 
 class CheckObjectsTest(unittest.TestCase):
     def setUp(self):
@@ -141,6 +181,17 @@ class CheckObjectsTest(unittest.TestCase):
                     self.CheckSource(architecture, part, source),
                     [rf"^{part}: {self.object}: orbs::{part}::Planted{i}\(\): '.*' at 0x\w+ is above the level: {level}$"
                      for i, level in enumerate(planted.values())])
+
+    def testStackAlignment(self):
+        self.AssertClean(self.CheckSource("i386", "h9", Assembly("i386", ALIGNED_STACK), language="assembler"))
+        bodies = [body for body, _ in MISALIGNED_STACK]
+        self.AssertFaults(
+            self.CheckSource("i386", "h9", Assembly("i386", bodies), language="assembler"),
+            [rf"Case{i}\(\): '.*' at 0x\w+ on a stack that nobody aligns to {alignment} bytes$"
+             for i, (_, alignment) in enumerate(MISALIGNED_STACK)])
+        # The 64-bit calling convention is kept.
+        self.AssertClean(self.CheckSource("x86-64", "h9", "_ZN4orbs2h94CaseEv: movaps %xmm0,-24(%rsp); ret\n"
+                                          ".globl _ZN4orbs2h94CaseEv\n", language="assembler"))
 
     def testPcThunks(self):
         name = "__x86.get_pc_thunk.ax"

@@ -32,6 +32,10 @@ void CheckNamespace(const ElfObject& object, std::string_view part, Report& repo
 // Its code holds no instruction above its level.
 void CheckLevel(const Function& function, const CodeContext& context);
 
+// A function that accesses vectors on its stack with instructions that fault on misaligned memory aligns the
+// stack.
+void CheckStackAlignment(const Function& function, const CodeContext& context);
+
 }  // namespace check_objects
 
 #endif

@@ -3,6 +3,56 @@
 namespace check_objects {
 namespace {
 
+bool IsRegister(const ZydisDecodedOperand& operand, ZydisRegister is32, ZydisRegister is64) {
+  return operand.type == ZYDIS_OPERAND_TYPE_REGISTER &&
+         (operand.reg.value == is32 || operand.reg.value == is64);
+}
+
+bool IsStackPointer(const ZydisDecodedOperand& operand) {
+  return IsRegister(operand, ZYDIS_REGISTER_ESP, ZYDIS_REGISTER_RSP);
+}
+
+Base BaseOf(const ZydisDecodedOperand& operand) {
+  switch (operand.mem.base) {
+    case ZYDIS_REGISTER_ESP:
+    case ZYDIS_REGISTER_RSP:
+      return Base::kStackPointer;
+    case ZYDIS_REGISTER_EBP:
+    case ZYDIS_REGISTER_RBP:
+      return Base::kFramePointer;
+    default:
+      return Base::kOther;
+  }
+}
+
+// Intel sorts instructions on vectors by how they fault. In SSE the classes of those that access memory in
+// whole vectors (1, 2 and 4) want it aligned, but for the few that say "unaligned"; in AVX class 1 alone
+// does, the aligned moves.
+bool FaultsOnMisalignedMemory(const ZydisDecodedInstruction& instruction) {
+  switch (instruction.mnemonic) {
+    case ZYDIS_MNEMONIC_MOVUPS:
+    case ZYDIS_MNEMONIC_MOVUPD:
+    case ZYDIS_MNEMONIC_MOVDQU:
+    case ZYDIS_MNEMONIC_LDDQU:
+    case ZYDIS_MNEMONIC_PCMPESTRI:
+    case ZYDIS_MNEMONIC_PCMPESTRM:
+    case ZYDIS_MNEMONIC_PCMPISTRI:
+    case ZYDIS_MNEMONIC_PCMPISTRM:
+      return false;
+    default:
+      break;
+  }
+  switch (instruction.meta.exception_class) {
+    case ZYDIS_EXCEPTION_CLASS_SSE1:
+    case ZYDIS_EXCEPTION_CLASS_SSE2:
+    case ZYDIS_EXCEPTION_CLASS_SSE4:
+    case ZYDIS_EXCEPTION_CLASS_AVX1:
+      return true;
+    default:
+      return false;
+  }
+}
+
 Flow FlowOf(const ZydisDecodedInstruction& instruction, const ZydisDecodedOperand* operands) {
   switch (instruction.meta.category) {
     case ZYDIS_CATEGORY_RET:
@@ -16,6 +66,16 @@ Flow FlowOf(const ZydisDecodedInstruction& instruction, const ZydisDecodedOperan
     default:
       return instruction.mnemonic == ZYDIS_MNEMONIC_UD2 ? Flow::kStop : Flow::kNext;
   }
+}
+
+// `and esp, -32` and the like. 1 for all else.
+unsigned AlignsStackTo(const ZydisDecodedInstruction& instruction, const ZydisDecodedOperand* operands) {
+  if (instruction.mnemonic != ZYDIS_MNEMONIC_AND || !IsStackPointer(operands[0]) ||
+      operands[1].type != ZYDIS_OPERAND_TYPE_IMMEDIATE) {
+    return 1;
+  }
+  const auto mask = static_cast<uint32_t>(operands[1].imm.value.u);
+  return mask & (0 - mask);  // its lowest bit
 }
 
 }  // namespace
@@ -48,6 +108,18 @@ Instruction Decoder::Decode(Place place, std::string_view bytes) const {
   result.flow = FlowOf(instruction, operands);
   if (operands[0].type == ZYDIS_OPERAND_TYPE_IMMEDIATE && operands[0].imm.is_relative) {
     result.target = {place.section, result.Next().offset + static_cast<uint64_t>(operands[0].imm.value.s)};
+  }
+  result.alignsStack = AlignsStackTo(instruction, operands);
+  result.setsFramePointer = instruction.mnemonic == ZYDIS_MNEMONIC_MOV &&
+                            IsRegister(operands[0], ZYDIS_REGISTER_EBP, ZYDIS_REGISTER_RBP) &&
+                            IsStackPointer(operands[1]);
+
+  for (const ZydisDecodedOperand* operand = operands; operand != operands + instruction.operand_count;
+       ++operand) {
+    if (operand->type == ZYDIS_OPERAND_TYPE_MEMORY && FaultsOnMisalignedMemory(instruction)) {
+      result.neededAlignment = operand->size / 8u;
+      result.base = BaseOf(*operand);
+    }
   }
   return result;
 }

@@ -29,6 +29,8 @@ inline constexpr Place kElsewhere = {SHN_UNDEF, 0};
 
 enum class Flow { kNext, kBranch, kJump, kIndirectJump, kCall, kReturn, kStop };
 
+enum class Base { kOther, kStackPointer, kFramePointer };
+
 struct Instruction {
   Place place;
   std::string_view bytes;
@@ -36,6 +38,12 @@ struct Instruction {
 
   Flow flow = Flow::kNext;
   Place target = kElsewhere;  // of a branch, a jump or a call
+
+  // An access to memory that faults unless the address is a multiple of this; 1 if there is none.
+  unsigned neededAlignment = 1;
+  Base base = Base::kOther;  // of that access
+  bool setsFramePointer = false;
+  unsigned alignsStack = 1;  // to a multiple of this
 
   Place Next() const { return {place.section, place.offset + bytes.size()}; }
 };

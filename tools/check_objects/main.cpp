@@ -1,5 +1,5 @@
 // Checks what no compiler and no linker checks: that the objects of each variant run on every processor that
-// selects it.
+// selects it, whoever calls them.
 //
 //   check_objects --arch x86-64 px=@px.txt h9=first.o,second.o common=@common.txt
 //
@@ -63,6 +63,7 @@ void CheckObject(const ElfObject& object, std::string_view part, Report& report)
   for (const Function& function : CutIntoFunctions(object, decoder)) {
     report.instructions += function.instructions.size();
     CheckLevel(function, context);
+    CheckStackAlignment(function, context);
   }
 }
 
