@@ -18,6 +18,7 @@ add_executable(check_objects EXCLUDE_FROM_ALL
     tools/check_objects/check_level.cpp
     tools/check_objects/check_namespace.cpp
     tools/check_objects/check_stack_alignment.cpp
+    tools/check_objects/check_upper_halves.cpp
     tools/check_objects/elf_object.cpp
     tools/check_objects/functions.cpp
     tools/check_objects/instruction.cpp

@@ -49,14 +49,15 @@ SYMBOLS = [
      "would run on every processor that loads the library"),
 ]
 
-# Instructions: architecture, variant, those that belong to its level, and those above it with the extension to be reported.
+# Instructions: architecture, variant, those of its level, and those above it with the extension to be reported.
 LEVELS = [
     ("x86-64", "px",
      ["cmove %ecx,%eax", "nopl (%rax)", "rep bsf %ecx,%eax", "fcomi %st(1),%st", "sqrtps %xmm1,%xmm0",
       "pextrw $1,%xmm0,%eax", "pause", "ud2", "endbr64"],
      {"vaddps %xmm0,%xmm1,%xmm2": "AVX", "fisttpll (%rax)": "SSE3X87", "haddps %xmm1,%xmm0": "SSE3", "cpuid": "CPUID",
       "paddb %mm1,%mm0": "MMX", "cvtpi2ps (%rax),%xmm0": "MMX", "sahf": "LAHF", "popcnt %ecx,%eax": "POPCNT",
-      "hlt": "system code", "in $1,%al": "system code", "lretq": "system code", ".byte 0x0f,0x04": "no known instruction"}),
+      "hlt": "system code", "in $1,%al": "system code", "lretq": "system code",
+      ".byte 0x0f,0x04": "no known instruction"}),
     ("x86-64", "common", ["cpuid", "xgetbv", "movups %xmm0,(%rsp)"], {"pshufb %xmm1,%xmm0": "SSSE3"}),
     ("x86-64", "w7", ["pmuludq %xmm1,%xmm0"], {"movddup %xmm1,%xmm0": "SSE3"}),
     ("x86-64", "v8", ["pshufb %xmm1,%xmm0", "addsubps %xmm1,%xmm0"],
@@ -76,7 +77,8 @@ LEVELS = [
     ("x86-64", "h9",
      ["vpaddd %ymm0,%ymm1,%ymm2", "vfmaddsub132pd %ymm0,%ymm1,%ymm2", "andn %eax,%ecx,%edx", "shlx %eax,%ecx,%edx",
       "vpgatherdd %ymm0,(%rax,%ymm1),%ymm2", "vzeroupper"],
-     {"vaddps %zmm0,%zmm1,%zmm2": "AVX512F_512", "vaddps %ymm0,%ymm1,%ymm20": "AVX512F_256", "kmovw %eax,%k1": "AVX512F_KOP",
+     {"vaddps %zmm0,%zmm1,%zmm2": "AVX512F_512", "vaddps %ymm0,%ymm1,%ymm20": "AVX512F_256",
+      "kmovw %eax,%k1": "AVX512F_KOP",
       "vpsrld $3,(%rax),%ymm0": "AVX512F_256", "vcvtph2ps %xmm0,%ymm1": "F16C", "lzcnt %ecx,%eax": "LZCNT",
       "movbe (%rax),%ecx": "MOVBE", "adcx %ecx,%eax": "ADOX_ADCX", "vpclmulqdq $1,%xmm0,%xmm1,%xmm2": "PCLMULQDQ"}),
     ("i386", "px", ["fucompp", "fnstsw %ax", "sahf", "bswap %eax", "xchg %ax,%ax", "rep bsf %ecx,%eax"],
@@ -100,7 +102,8 @@ def WithCold(code, cold):
 ALIGNED_STACK = [
     "push %ebp; mov %esp,%ebp; and $-16,%esp; sub $32,%esp; movaps %xmm0,(%esp); paddd -24(%ebp),%xmm0; leave; ret",
     "and $-32,%esp; vmovdqa %ymm0,(%esp); vmovdqa %xmm0,32(%esp); ret",
-    "movups %xmm0,-16(%esp); lddqu -16(%esp),%xmm1; movss %xmm0,-4(%esp); movq %xmm0,-8(%esp); cvtps2pd -8(%esp),%xmm0; ret",
+    "movups %xmm0,-16(%esp); lddqu -16(%esp),%xmm1; ret",
+    "movss %xmm0,-4(%esp); movq %xmm0,-8(%esp); cvtps2pd -8(%esp),%xmm0; ret",
     "vmovups %xmm0,-16(%esp); vaddps -16(%esp),%xmm0,%xmm0; vpaddd -16(%esp),%xmm0,%xmm0; ret",
     "movaps (%eax),%xmm0; lea -16(%esp),%ecx; ret",
     "mov %eax,%ebp; movaps (%ebp),%xmm0; ret",  # a register like any other
@@ -117,6 +120,48 @@ MISALIGNED_STACK = [
     ("and $-16,%esp; vmovdqa %ymm0,(%esp); ret", 32),
     (WithCold("test %eax,%eax; je {name}.cold; ret", "movaps %xmm0,(%esp); ret"), 16),
 ]
+
+# Upper halves, on both targets: functions that may stand, and functions with the instruction that leaves them in use.
+CLEAR_HALVES = [
+    "vaddps %ymm0,%ymm1,%ymm2; vzeroupper; ret",
+    "vaddps %ymm0,%ymm1,%ymm2; vzeroall; jmp Other@PLT",
+    "vaddps %xmm0,%xmm1,%xmm2; vmovups %ymm0,(%eax); ret",
+    "vmovups (%eax),%ymm0; vzeroupper; call Other@PLT; ret",
+    "1: vmovups (%eax),%ymm0; dec %eax; jne 1b; vzeroupper; ret",
+    "test %eax,%eax; je 1f; vmovups (%eax),%ymm0; vzeroupper; 1: ret",
+    "jmp 2f; 1: ret; 2: vmovups (%eax),%ymm0; vzeroupper; jmp 1b",
+    "test %eax,%eax; je 1f; vmovups (%eax),%ymm0; ud2; 1: ret",
+    # Jump tables, the cases with padding in front.
+    "vmovups (%eax),%ymm0; jmp *%{a}; .p2align 4; vzeroupper; ret; .p2align 4; vzeroupper; ret",
+    "jmp *%{a}; .p2align 4; vmovups (%eax),%ymm0; vzeroupper; ret; .p2align 4; ret",
+    WithCold("vmovups (%eax),%ymm0; test %eax,%eax; je {name}.cold; vzeroupper; ret", "vzeroupper; ret"),
+]
+HALVES_IN_USE = [
+    ("vaddps %ymm0,%ymm1,%ymm2; ret", "ret"),
+    ("vzeroupper; vpermilps $1,%ymm0,%ymm1; ret", "ret"),
+    ("vmovups (%eax),%ymm0; test %eax,%eax; je 1f; vzeroupper; 1: ret", "ret"),
+    ("vmovups (%eax),%ymm0; test %eax,%eax; je 1f; ret; 1: vzeroupper; ret", "ret"),
+    ("1: dec %eax; je 2f; vmovups (%eax),%ymm0; jmp 1b; 2: ret", "ret"),
+    ("jmp 2f; 1: ret; 2: vmovups (%eax),%ymm0; dec %eax; je 1b; jmp 2b", "ret"),
+    ("vmovups (%eax),%ymm0; call Other@PLT; ret", "call"),
+    ("vmovups (%eax),%ymm0; call *(%{a}); ret", "call"),
+    ("vmovups (%eax),%ymm0; jmp Other@PLT", "jmp"),
+    ("vmovups (%eax),%ymm0; jne Other; vzeroupper; ret", "jnz"),
+    ("vmovups (%eax),%ymm0; jmp *%{a}; .p2align 4", "jmp"),
+    ("vmovups (%eax),%ymm0; jmp *%{a}; .p2align 4; vzeroupper; ret; .p2align 4; ret", "ret"),
+    ("jmp *%{a}; .p2align 4; vzeroupper; ret; .p2align 4; vmovups (%eax),%ymm0; ret", "ret"),
+    (WithCold("vmovups (%eax),%ymm0; test %eax,%eax; je {name}.cold; vzeroupper; ret", "ret"), "ret"),
+]
+
+# A vector that is passed by value has to arrive, so that compilers clear nothing on its way.
+VECTORS_BY_VALUE = """
+namespace orbs::g9 {
+typedef float Vector __attribute__((vector_size(32), aligned(4)));
+__attribute__((noinline)) Vector Twice(Vector x) { return x + x; }
+void Caller(const Vector* x, Vector* result) { *result = Twice(*x); }
+void Clean(const Vector* x, Vector* result) { *result = *x + *x; }
+}
+"""
 
 
 def Assembly(architecture, functions):
@@ -138,7 +183,8 @@ class CheckObjectsTest(unittest.TestCase):
     def Compile(self, architecture, source, language="c++", options=()):
         bits = {"i386": ["-m32", "-march=i486"], "x86-64": ["-m64"]}[architecture]
         if language == "c++":
-            options = ["-std=c++17", "-O2", "-fPIC", "-fno-exceptions", "-fno-rtti", "-fno-threadsafe-statics", *options]
+            options = ["-std=c++17", "-O2", "-fPIC", "-fno-exceptions", "-fno-rtti", "-fno-threadsafe-statics",
+                       *options]
         command = [ENVIRONMENT.compiler, *bits, *options, "-x", language, "-c", "-", "-o", self.object]
         subprocess.run(command, input=source, text=True, check=True)
 
@@ -175,12 +221,14 @@ class CheckObjectsTest(unittest.TestCase):
             source = CLEAN.format(variant=part, instructions=" ".join(f'asm("{text}");' for text in allowed))
             with self.subTest(architecture=architecture, part=part):
                 self.AssertClean(self.CheckSource(architecture, part, source))
-                functions = [f'void Planted{i}() {{ asm("{text}"); }}' for i, text in enumerate(planted)]
+                clear = "; vzeroupper" if part in ("g9", "h9") else ""  # so that the level is the only fault
+                functions = [f'void Planted{i}() {{ asm("{text}{clear}"); }}' for i, text in enumerate(planted)]
                 source = f"namespace orbs::{part} {{ {' '.join(functions)} }}"
+                where = f"^{part}: {self.object}: orbs::{part}::"
                 self.AssertFaults(
                     self.CheckSource(architecture, part, source),
-                    [rf"^{part}: {self.object}: orbs::{part}::Planted{i}\(\): '.*' at 0x\w+ is above the level: {level}$"
-                     for i, level in enumerate(planted.values())])
+                    [rf"{where}Planted{i}\(\): '.*' at 0x\w+ is above the level: {extension}$"
+                     for i, extension in enumerate(planted.values())])
 
     def testStackAlignment(self):
         self.AssertClean(self.CheckSource("i386", "h9", Assembly("i386", ALIGNED_STACK), language="assembler"))
@@ -193,6 +241,20 @@ class CheckObjectsTest(unittest.TestCase):
         self.AssertClean(self.CheckSource("x86-64", "h9", "_ZN4orbs2h94CaseEv: movaps %xmm0,-24(%rsp); ret\n"
                                           ".globl _ZN4orbs2h94CaseEv\n", language="assembler"))
 
+    def testUpperHalves(self):
+        for architecture in "x86-64", "i386":
+            with self.subTest(architecture=architecture):
+                self.AssertClean(
+                    self.CheckSource(architecture, "h9", Assembly(architecture, CLEAR_HALVES), language="assembler"))
+                bodies = [body for body, _ in HALVES_IN_USE]
+                self.AssertFaults(
+                    self.CheckSource(architecture, "h9", Assembly(architecture, bodies), language="assembler"),
+                    [rf"Case{i}\(\): '{instruction}.*' at 0x\w+ leaves the function with 256-bit vectors in use$"
+                     for i, (_, instruction) in enumerate(HALVES_IN_USE)])
+                self.AssertFaults(
+                    self.CheckSource(architecture, "g9", VECTORS_BY_VALUE, options=["-mavx", "-Wno-psabi"]),
+                    [r"Twice\(.*'ret'", r"Caller\(.*'call "])
+
     def testPcThunks(self):
         name = "__x86.get_pc_thunk.ax"
         thunk = (f'asm(".section .text.{name}, \\"axG\\", @progbits, {name}, comdat\\n'
@@ -200,6 +262,9 @@ class CheckObjectsTest(unittest.TestCase):
         # The linker merges them, so they must suit every processor.
         self.AssertFaults(self.CheckSource("i386", "w7", thunk + "namespace orbs::w7 { void Planted() {} }"),
                           [r"__x86\.get_pc_thunk\.ax: 'cmovz .*' at 0x0 is above the level: CMOV"])
+        # And they leave vectors alone.
+        body = f"vmovups (%ecx),%ymm0; call {name}; vzeroupper; ret"
+        self.AssertClean(self.CheckSource("i386", "h9", Assembly("i386", [body]), language="assembler"))
 
     def testWhatCannotBeCheckedIsAFault(self):
         for architecture, source, message in [

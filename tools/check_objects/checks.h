@@ -1,4 +1,4 @@
-// The properties that are checked.
+// The four properties that are checked.
 #ifndef ORBS_TOOLS_CHECK_OBJECTS_CHECKS_H
 #define ORBS_TOOLS_CHECK_OBJECTS_CHECKS_H
 
@@ -35,6 +35,9 @@ void CheckLevel(const Function& function, const CodeContext& context);
 // A function that accesses vectors on its stack with instructions that fault on misaligned memory aligns the
 // stack.
 void CheckStackAlignment(const Function& function, const CodeContext& context);
+
+// No vector of 256 bits crosses a call or a return.
+void CheckUpperHalves(const Function& function, const CodeContext& context);
 
 }  // namespace check_objects
 

@@ -68,6 +68,25 @@ Flow FlowOf(const ZydisDecodedInstruction& instruction, const ZydisDecodedOperan
   }
 }
 
+// Assemblers fill with moves of a register to itself where the oldest processors have no nop that is long
+// enough.
+bool IsPadding(const ZydisDecodedInstruction& instruction, const ZydisDecodedOperand* operands) {
+  switch (instruction.mnemonic) {
+    case ZYDIS_MNEMONIC_NOP:
+      return true;
+    case ZYDIS_MNEMONIC_LEA:
+      return operands[1].mem.base == operands[0].reg.value && operands[1].mem.index == ZYDIS_REGISTER_NONE &&
+             operands[1].mem.disp.value == 0;
+    case ZYDIS_MNEMONIC_MOV:
+    case ZYDIS_MNEMONIC_XCHG:
+      return operands[0].type == ZYDIS_OPERAND_TYPE_REGISTER &&
+             operands[1].type == ZYDIS_OPERAND_TYPE_REGISTER &&
+             operands[0].reg.value == operands[1].reg.value;
+    default:
+      return false;
+  }
+}
+
 // `and esp, -32` and the like. 1 for all else.
 unsigned AlignsStackTo(const ZydisDecodedInstruction& instruction, const ZydisDecodedOperand* operands) {
   if (instruction.mnemonic != ZYDIS_MNEMONIC_AND || !IsStackPointer(operands[0]) ||
@@ -105,6 +124,7 @@ Instruction Decoder::Decode(Place place, std::string_view bytes) const {
 
   result.bytes = bytes.substr(0, instruction.length);
   result.extension = ExtensionOf(instruction, operands);
+  result.isPadding = IsPadding(instruction, operands);
   result.flow = FlowOf(instruction, operands);
   if (operands[0].type == ZYDIS_OPERAND_TYPE_IMMEDIATE && operands[0].imm.is_relative) {
     result.target = {place.section, result.Next().offset + static_cast<uint64_t>(operands[0].imm.value.s)};
@@ -113,12 +133,19 @@ Instruction Decoder::Decode(Place place, std::string_view bytes) const {
   result.setsFramePointer = instruction.mnemonic == ZYDIS_MNEMONIC_MOV &&
                             IsRegister(operands[0], ZYDIS_REGISTER_EBP, ZYDIS_REGISTER_RBP) &&
                             IsStackPointer(operands[1]);
+  result.clearsUpperHalves =
+      instruction.mnemonic == ZYDIS_MNEMONIC_VZEROUPPER || instruction.mnemonic == ZYDIS_MNEMONIC_VZEROALL;
 
   for (const ZydisDecodedOperand* operand = operands; operand != operands + instruction.operand_count;
        ++operand) {
     if (operand->type == ZYDIS_OPERAND_TYPE_MEMORY && FaultsOnMisalignedMemory(instruction)) {
       result.neededAlignment = operand->size / 8u;
       result.base = BaseOf(*operand);
+    }
+    if (operand->type == ZYDIS_OPERAND_TYPE_REGISTER && !result.clearsUpperHalves &&
+        ZydisRegisterGetClass(operand->reg.value) == ZYDIS_REGCLASS_YMM &&
+        (operand->actions & ZYDIS_OPERAND_ACTION_MASK_WRITE) != 0) {
+      result.writesUpperHalves = true;
     }
   }
   return result;

@@ -35,6 +35,7 @@ struct Instruction {
   Place place;
   std::string_view bytes;
   Extension extension = kNoInstruction;
+  bool isPadding = false;  // does nothing
 
   Flow flow = Flow::kNext;
   Place target = kElsewhere;  // of a branch, a jump or a call
@@ -44,6 +45,9 @@ struct Instruction {
   Base base = Base::kOther;  // of that access
   bool setsFramePointer = false;
   unsigned alignsStack = 1;  // to a multiple of this
+
+  bool writesUpperHalves = false;  // of vector registers, with anything but zeros
+  bool clearsUpperHalves = false;
 
   Place Next() const { return {place.section, place.offset + bytes.size()}; }
 };

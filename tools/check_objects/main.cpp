@@ -64,6 +64,7 @@ void CheckObject(const ElfObject& object, std::string_view part, Report& report)
     report.instructions += function.instructions.size();
     CheckLevel(function, context);
     CheckStackAlignment(function, context);
+    CheckUpperHalves(function, context);
   }
 }
 
