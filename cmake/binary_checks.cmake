@@ -1,6 +1,5 @@
-# Two properties of the built objects, checked on every build: a variant's global symbols stay in its namespace and its
-# instructions at its level (tools/check_variants.py). The stamp of a variant is as new as its objects, so that a build looks
-# at what it has compiled and at nothing else.
+# What tools/check_objects/checks.h promises of the objects of every variant, checked on every build. The stamp of a variant
+# is as new as its objects, so that a build looks at what it has compiled and at nothing else.
 
 # Instrumented objects hold symbols and instructions of the instrumentation, and are never shipped.
 if(CMAKE_CXX_FLAGS MATCHES "-fsanitize|--coverage|-fprofile-arcs")
@@ -8,18 +7,35 @@ if(CMAKE_CXX_FLAGS MATCHES "-fsanitize|--coverage|-fprofile-arcs")
 endif()
 
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
-# By name and not CMAKE_NM and CMAKE_OBJDUMP: with Clang those are LLVM's, which print another text.
-find_program(ORBS_NM nm REQUIRED)
-find_program(ORBS_OBJDUMP objdump REQUIRED)
+find_path(ORBS_ZYDIS_INCLUDE_DIR Zydis/Zydis.h)
+if(NOT ORBS_ZYDIS_INCLUDE_DIR)
+  message(FATAL_ERROR "No Zydis: install the package libzydis-dev, or configure with -DORBS_BUILD_TESTS=OFF")
+endif()
+
+# A program of the building machine, whatever the library is built for: 64 bits, and no emulator in front of it. Zydis goes
+# by its bare name, since a 32-bit build looks for libraries in other folders.
+add_executable(check_objects EXCLUDE_FROM_ALL
+    tools/check_objects/check_level.cpp
+    tools/check_objects/check_namespace.cpp
+    tools/check_objects/check_stack_alignment.cpp
+    tools/check_objects/check_upper_halves.cpp
+    tools/check_objects/elf_object.cpp
+    tools/check_objects/functions.cpp
+    tools/check_objects/instruction.cpp
+    tools/check_objects/levels.cpp
+    tools/check_objects/main.cpp
+    tools/check_objects/report.cpp)
+target_include_directories(check_objects SYSTEM PRIVATE ${ORBS_ZYDIS_INCLUDE_DIR})
+target_compile_options(check_objects PRIVATE -m64 -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+target_link_options(check_objects PRIVATE -m64)
+target_link_libraries(check_objects PRIVATE Zydis)
+set_target_properties(check_objects PROPERTIES CROSSCOMPILING_EMULATOR "")
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   set(check_arch i386)
 else()
   set(check_arch x86-64)
 endif()
-set(check_tools ${PROJECT_SOURCE_DIR}/tools/check_variants.py ${PROJECT_SOURCE_DIR}/tools/instruction_levels.py)
-set(check_command ${Python3_EXECUTABLE} -B ${PROJECT_SOURCE_DIR}/tools/check_variants.py
-    --arch ${check_arch} --nm ${ORBS_NM} --objdump ${ORBS_OBJDUMP})
 set(check_folder ${PROJECT_BINARY_DIR}/binary_checks)
 
 # orbs_add_binary_check(PART LIBRARY...): checks the objects of these libraries as that variant, or as common.
@@ -34,9 +50,9 @@ macro(orbs_add_binary_check part)
   file(GENERATE OUTPUT ${check_folder}/${part}.txt CONTENT "$<JOIN:${objects},\n>\n")
   add_custom_command(
     OUTPUT ${check_folder}/${part}.stamp
-    COMMAND ${check_command} ${part}=@${check_folder}/${part}.txt
+    COMMAND check_objects --arch ${check_arch} ${part}=@${check_folder}/${part}.txt
     COMMAND ${CMAKE_COMMAND} -E touch ${check_folder}/${part}.stamp
-    DEPENDS ${objects} ${check_folder}/${part}.txt ${check_tools}
+    DEPENDS check_objects ${objects} ${check_folder}/${part}.txt
     COMMENT "Checking symbols and instructions of ${part}"
     VERBATIM)
   list(APPEND check_parts ${part}=@${check_folder}/${part}.txt)
@@ -50,7 +66,7 @@ orbs_add_binary_check(common orbs_common orbs_boundary orbs_dispatch)
 add_custom_target(orbs_binary_checks ALL DEPENDS ${check_stamps})
 
 # The same once more where the summary of the tests shows it, and the proof that a planted fault is found.
-add_test(NAME binary_checks COMMAND ${check_command} ${check_parts})
+add_test(NAME binary_checks COMMAND check_objects --arch ${check_arch} ${check_parts})
 add_test(NAME binary_checks_planted
-    COMMAND ${Python3_EXECUTABLE} -B ${PROJECT_SOURCE_DIR}/tools/check_variants_test.py
-            --compiler ${CMAKE_CXX_COMPILER} --nm ${ORBS_NM} --objdump ${ORBS_OBJDUMP})
+    COMMAND ${Python3_EXECUTABLE} -B ${PROJECT_SOURCE_DIR}/tools/check_objects_test.py
+            --checker $<TARGET_FILE:check_objects> --compiler ${CMAKE_CXX_COMPILER})

@@ -3,6 +3,7 @@
 
 #include "frame/checks.h"
 #include "frame/exports.h"
+#include "frame/round_scaled.h"
 #include "gen/window_apply.h"
 
 namespace orbs::ORBS_VARIANT {
@@ -90,9 +91,7 @@ void Weigh(const Data* src, Data* dst, Orb32s len, Orb32s alphaQ15) {
 
 void WeighScaled(Orb16s* srcDst, Orb32s len, Orb32s alphaQ15, Orb32s scaleFactor) {
   const PowerOfTwo<Orb32f> factor = InversePowerOfTwo<Orb32f>(scaleFactor);
-  const F32 first = F32::All(factor.first);
-  const F32 second = F32::All(factor.second);
-  const auto scale = [first, second](F32 y) { return y * first * second; };
+  const auto scale = [factor](F32 y) { return Times<Orb32f>(y, factor); };
   ApplyWindow(srcDst, srcDst, len, BlackmanValues(len, alphaQ15), scale);
 }
 

@@ -46,7 +46,7 @@ ORBS_INLINE void Weigh(Orb16sc* d, const Orb16sc* s, const Orb32f* values, Scale
 // window(values, first, count) writes the values of `count` positions from `first` on; it may write up to the
 // next multiple of the lanes. It is asked for chunks in ascending order.
 template <class Data, class Window, class Scale>
-void ApplyWindow(const Data* src, Data* dst, Orb32s len, Window window, Scale scale) {
+ORBS_INLINE void ApplyWindow(const Data* src, Data* dst, Orb32s len, Window window, Scale scale) {
   const Orb32s half = len / 2;
   for (Orb32s first = 0; first < half;) {
     const Orb32s count = half - first < kWindowChunk ? half - first : kWindowChunk;
