@@ -1,8 +1,19 @@
 #include "bench/variants.h"
 
+#include <cpuid.h>
+
 #include "frame/variants.h"
 
 namespace orbs::bench {
+namespace {
+
+// A function of its own, since clang's __builtin_cpu_supports does not know the name.
+bool HasMovbe() {
+  unsigned eax, ebx, ecx, edx;
+  return __get_cpuid(1, &eax, &ebx, &ecx, &edx) != 0 && (ecx & bit_MOVBE) != 0;
+}
+
+}  // namespace
 
 int VariantIndex(const std::string& name) {
   constexpr const char* kNames[kVariantCount] = {"px", "w7", "v8", "s8", "p8", "g9", "h9"};
@@ -21,7 +32,7 @@ bool ProcessorRuns(int variant) {
     case Variant::v8:
       return __builtin_cpu_supports("ssse3");
     case Variant::s8:
-      return __builtin_cpu_supports("ssse3") && __builtin_cpu_supports("movbe");
+      return __builtin_cpu_supports("ssse3") && HasMovbe();
     case Variant::p8:
       return __builtin_cpu_supports("sse4.1");
     case Variant::g9:

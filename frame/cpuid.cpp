@@ -1,7 +1,7 @@
 #include "frame/cpuid.h"
 
 #include <cpuid.h>
-#include <x86gprintrin.h>
+#include <x86intrin.h>
 
 namespace orbs {
 namespace {

@@ -133,17 +133,6 @@ ORBS_COMPLEX_CODELETS(scaled, true)
 ORBS_REAL_CODELETS(plain, false)
 ORBS_REAL_CODELETS(scaled, true)
 
-template struct ComplexCodelets<true, Interleaved, Orb32f>;
-template struct ComplexCodelets<false, Interleaved, Orb32f>;
-template struct ComplexCodelets<true, Split, Orb32f>;
-template struct ComplexCodelets<false, Split, Orb32f>;
-template struct ComplexCodelets<true, Interleaved, Orb64f>;
-template struct ComplexCodelets<false, Interleaved, Orb64f>;
-template struct ComplexCodelets<true, Split, Orb64f>;
-template struct ComplexCodelets<false, Split, Orb64f>;
-template struct RealCodelets<true, Orb32f>;
-template struct RealCodelets<false, Orb32f>;
-template struct RealCodelets<true, Orb64f>;
-template struct RealCodelets<false, Orb64f>;
+ORBS_INSTANTIATE_CODELETS()
 
 }  // namespace orbs::ORBS_VARIANT

@@ -28,6 +28,22 @@ struct RealCodelets {
   static const Function scaled[kLargestRealCodelet + 1];
 };
 
+#define ORBS_INSTANTIATE_CODELETS(storage)                             \
+  storage template struct ComplexCodelets<true, Interleaved, Orb32f>;  \
+  storage template struct ComplexCodelets<false, Interleaved, Orb32f>; \
+  storage template struct ComplexCodelets<true, Split, Orb32f>;        \
+  storage template struct ComplexCodelets<false, Split, Orb32f>;       \
+  storage template struct ComplexCodelets<true, Interleaved, Orb64f>;  \
+  storage template struct ComplexCodelets<false, Interleaved, Orb64f>; \
+  storage template struct ComplexCodelets<true, Split, Orb64f>;        \
+  storage template struct ComplexCodelets<false, Split, Orb64f>;       \
+  storage template struct RealCodelets<true, Orb32f>;                  \
+  storage template struct RealCodelets<false, Orb32f>;                 \
+  storage template struct RealCodelets<true, Orb64f>;                  \
+  storage template struct RealCodelets<false, Orb64f>;
+// All that are used; fft_codelets.cpp has their tables.
+ORBS_INSTANTIATE_CODELETS(extern)
+
 }  // namespace orbs::ORBS_VARIANT
 
 #endif

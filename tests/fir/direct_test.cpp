@@ -203,7 +203,7 @@ TEST_P(FirDirectTest, DISABLED_MostTapsThereCanBe) {
   constexpr Orb32s kTaps = std::numeric_limits<Orb32s>::max();
   const auto check = [](auto filter) {
     using F = decltype(filter);
-    ZeroArray<typename F::Tap> taps(kTaps);
+    ZeroArray<typename F::Tap> taps(static_cast<size_t>(kTaps));
     ZeroArray<Orb16s> line(2 * static_cast<size_t>(kTaps));
     if (taps.data() == nullptr || line.data() == nullptr) GTEST_SKIP() << "no room";
     taps.data()[0] = 3;

@@ -222,7 +222,7 @@ TEST(RealProcessor, TheMaskAgreesWithTheCompilersOwnDetection) {
   EXPECT_EQ(has(kSse2), __builtin_cpu_supports("sse2") != 0);
   EXPECT_EQ(has(kSse3), __builtin_cpu_supports("sse3") != 0);
   EXPECT_EQ(has(kSsse3), __builtin_cpu_supports("ssse3") != 0);
-  EXPECT_EQ(has(kMovbe), __builtin_cpu_supports("movbe") != 0);
+  EXPECT_EQ(has(kMovbe), HasMovbe());
   EXPECT_EQ(has(kSse41), __builtin_cpu_supports("sse4.1") != 0);
   EXPECT_EQ(has(kSse42), __builtin_cpu_supports("sse4.2") != 0);
   EXPECT_EQ(has(kAvx | kAvxEnabled), __builtin_cpu_supports("avx") != 0);

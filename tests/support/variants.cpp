@@ -1,10 +1,18 @@
 #include "support/variants.h"
 
+#include <cpuid.h>
+
 namespace orbs::test {
 
 const char* VariantName(Variant variant) {
   constexpr const char* kNames[kVariantCount] = {"px", "w7", "v8", "s8", "p8", "g9", "h9"};
   return kNames[static_cast<int>(variant)];
+}
+
+// A function of its own, since clang's __builtin_cpu_supports does not know the name.
+bool HasMovbe() {
+  unsigned eax, ebx, ecx, edx;
+  return __get_cpuid(1, &eax, &ebx, &ecx, &edx) != 0 && (ecx & bit_MOVBE) != 0;
 }
 
 bool CanRun(Variant variant) {
@@ -16,7 +24,7 @@ bool CanRun(Variant variant) {
     case Variant::v8:
       return __builtin_cpu_supports("ssse3");
     case Variant::s8:
-      return __builtin_cpu_supports("ssse3") && __builtin_cpu_supports("movbe");
+      return __builtin_cpu_supports("ssse3") && HasMovbe();
     case Variant::p8:
       return __builtin_cpu_supports("sse4.1");
     case Variant::g9:

@@ -15,6 +15,7 @@ inline constexpr Variant kAllVariants[kVariantCount] = {Variant::px, Variant::w7
 
 const char* VariantName(Variant variant);
 bool CanRun(Variant variant);
+bool HasMovbe();
 
 // The name of the variant as the last part of the test's name.
 struct VariantNamer {

@@ -69,9 +69,8 @@ constexpr size_t kLoadedBeyond = 0;
 
 TEST_P(ToolkitConvertTest, EveryLength) {
   const auto rounded = [](auto result, Orb32s s = 0) {
-    return [result, s](size_t i, size_t, const auto* src, const void*) {
-      return Rounded<decltype(result)>(Scaled(src[i], s));
-    };
+    using Result = decltype(result);
+    return [s](size_t i, size_t, const auto* src, const void*) { return Rounded<Result>(Scaled(src[i], s)); };
   };
   Sweep(t.VecConvert_8s32f, rounded(Orb32f()));
   Sweep(t.VecConvert_16s32f, rounded(Orb32f()));
