@@ -18,7 +18,7 @@ set(ORBS_OPTIMIZATION -O2 CACHE STRING "Optimization level of the library, whate
 # What all code of the library has in common. Contraction is off since a fused multiply-add is written where it is meant;
 # errno is nobody's channel here, and without it roots and conversions compile to single instructions.
 set(ORBS_COMPILE_OPTIONS
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wmissing-declarations -Werror
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wmissing-declarations ${ORBS_WARNINGS_AS_ERRORS}
     ${ORBS_OPTIMIZATION} -ffp-contract=off -fno-math-errno -fno-exceptions -fno-rtti -fno-threadsafe-statics
     -fno-semantic-interposition)
 

@@ -29,12 +29,14 @@ class Configure(unittest.TestCase):
              '--trace-expand', '--trace-format=json-v1', f'--trace-redirect={self.trace}', *options],
             capture_output=True, text=True)
 
+    def compile_commands(self):
+        with open(os.path.join(self.build, 'compile_commands.json'), encoding='utf-8') as file:
+            return [shlex.split(entry['command']) for entry in json.load(file)]
+
     def expected_vendors(self):
         """What the compiler is given, wherever it is given any."""
         option = '-DORBS_EXPECTED_VENDOR_ID='
-        with open(os.path.join(self.build, 'compile_commands.json'), encoding='utf-8') as file:
-            commands = [shlex.split(entry['command']) for entry in json.load(file)]
-        return {word[len(option):] for words in commands for word in words if word.startswith(option)}
+        return {word[len(option):] for words in self.compile_commands() for word in words if word.startswith(option)}
 
     def asks_of_the_machine(self):
         """The project's own commands that could learn something about the building machine."""
@@ -62,6 +64,13 @@ class Configure(unittest.TestCase):
         result = self.configure('-DORBS_EXPECTED_VENDOR_ID=Eleven chrs')
         self.assertNotEqual(result.returncode, 0)
         self.assertIn('must have 12 characters', result.stderr)
+
+    def test_warnings_are_errors_on_request_alone(self):
+        for options, is_error in ((), False), (('-DORBS_WERROR=ON',), True):
+            result = self.configure(*options)
+            self.assertEqual(result.returncode, 0, result.stderr)
+            with_warnings = [words for words in self.compile_commands() if '-Wall' in words]
+            self.assertEqual({'-Werror' in words for words in with_warnings}, {is_error})
 
     def test_without_the_tests_the_first_program_is_one(self):
         self.configure()
