@@ -26,7 +26,8 @@ add_executable(check_objects EXCLUDE_FROM_ALL
     tools/check_objects/main.cpp
     tools/check_objects/report.cpp)
 target_include_directories(check_objects SYSTEM PRIVATE ${ORBS_ZYDIS_INCLUDE_DIR})
-target_compile_options(check_objects PRIVATE -m64 -Wall -Wextra -Wpedantic -Wshadow -Wconversion ${ORBS_WARNINGS_AS_ERRORS})
+target_compile_options(check_objects PRIVATE
+    -m64 -Wall -Wextra -Wpedantic -Wshadow -Wconversion ${ORBS_WARNINGS_AS_ERRORS})
 target_link_options(check_objects PRIVATE -m64)
 target_link_libraries(check_objects PRIVATE Zydis)
 set_target_properties(check_objects PROPERTIES CROSSCOMPILING_EMULATOR "")
