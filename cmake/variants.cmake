@@ -23,6 +23,10 @@ set(ORBS_COMPILE_OPTIONS
     -fno-semantic-interposition)
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  # Clang has nothing like -mincoming-stack-boundary: with -mstackrealign it still reads vectors of arguments as aligned.
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    message(FATAL_ERROR "The 32-bit library needs GCC: other compilers rely on a stack that old programs do not align")
+  endif()
   # The oldest processor that has x87. px must run where CPUID finds nothing.
   # Old callers align the stack to 4 bytes only; vectors on it need 16, and so does the C library. -mstackrealign would not
   # do: in functions with vectors of 32 bytes it takes for granted that their callers align to 16.
