@@ -27,10 +27,10 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     message(FATAL_ERROR "The 32-bit library needs GCC: other compilers rely on a stack that old programs do not align")
   endif()
-  # The oldest processor that has x87. px must run where CPUID finds nothing.
   # Old callers align the stack to 4 bytes only; vectors on it need 16, and so does the C library. -mstackrealign would not
   # do: in functions with vectors of 32 bytes it takes for granted that their callers align to 16.
   set(from_any_stack -mincoming-stack-boundary=2)
+  # The oldest processor that has x87. px must run where CPUID finds nothing.
   set(ORBS_BASELINE_FLAGS -march=i486 -mtune=generic -mno-mmx -mno-sse -mfpmath=387 ${from_any_stack})
   set(ORBS_VECTOR_BASELINE_FLAGS -march=i686 -mtune=generic -mfpmath=sse ${from_any_stack})
 else()
