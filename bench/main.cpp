@@ -9,7 +9,7 @@
 #include "bench/measure.h"
 #include "bench/report.h"
 #include "bench/variants.h"
-#include "frame/pin.h"
+#include "boundary/pin.h"
 #include "orbs90lgc.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cpuid.h>
 
-#include "frame/variants.h"
+#include "core/variants.h"
 
 namespace orbs::bench {
 namespace {

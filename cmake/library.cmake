@@ -1,7 +1,7 @@
 # liborbs90lgc.so and, beside it, liborbs90lgc_pinnable.so from the same objects.
 
 # The vendor that Init expects. The default is fixed, so that the library is the same wherever it was built. It is the
-# one whose processors answer the CPUID leaves that frame/cache.cpp reads, 2 and 4, and no others are asked.
+# one whose processors answer the CPUID leaves that src/boundary/cache.cpp reads, 2 and 4, and no others are asked.
 if("$CACHE{ORBS_EXPECTED_VENDOR_ID}" STREQUAL "")
   unset(ORBS_EXPECTED_VENDOR_ID CACHE)  # an empty one stands for the default
 endif()
@@ -29,7 +29,7 @@ endforeach()
 # orbs_add_plain(NAME SOURCE...): an object library of code outside the variants.
 function(orbs_add_plain name)
   add_library(${name} OBJECT ${ARGN})
-  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+  target_include_directories(${name} PRIVATE ${ORBS_INCLUDE_DIRS})
   target_compile_options(${name} PRIVATE
       $<$<COMPILE_LANGUAGE:CXX>:${ORBS_COMPILE_OPTIONS}> $<$<COMPILE_LANGUAGE:CXX>:${ORBS_BASELINE_FLAGS}>)
 endfunction()
@@ -37,20 +37,20 @@ endfunction()
 orbs_add_plain(orbs_common ${ORBS_COMMON_SOURCES})
 target_compile_definitions(orbs_common PRIVATE ORBS_EXPECTED_VENDOR_ID="${ORBS_EXPECTED_VENDOR_ID}")
 orbs_add_plain(orbs_boundary ${ORBS_BOUNDARY_SOURCES})
-orbs_add_plain(orbs_dispatch frame/dispatch.cpp)
+orbs_add_plain(orbs_dispatch src/boundary/dispatch.cpp)
 target_compile_definitions(orbs_dispatch PRIVATE ${entries})
-orbs_add_plain(orbs_pin frame/pin.cpp)
+orbs_add_plain(orbs_pin src/boundary/pin.cpp)
 # The assembler file depends on the list through the preprocessor, which CMake does not scan here.
-set_source_files_properties(frame/stubs.S PROPERTIES OBJECT_DEPENDS ${PROJECT_SOURCE_DIR}/frame/exports.def)
+set_source_files_properties(src/boundary/stubs.S PROPERTIES OBJECT_DEPENDS ${PROJECT_SOURCE_DIR}/src/boundary/exports.def)
 
 # orbs_add_library(NAME SOVERSION DEFINITIONS OBJECTS...): a shared library that exports the list and nothing else.
 function(orbs_add_library name definitions)
   set(map ${CMAKE_BINARY_DIR}/${name}.map)
   add_custom_command(
     OUTPUT ${map}
-    COMMAND ${CMAKE_C_COMPILER} -E -P -x c ${definitions} -I ${PROJECT_SOURCE_DIR}
-            ${PROJECT_SOURCE_DIR}/frame/exports.map.in -o ${map}
-    DEPENDS ${PROJECT_SOURCE_DIR}/frame/exports.map.in ${PROJECT_SOURCE_DIR}/frame/exports.def
+    COMMAND ${CMAKE_C_COMPILER} -E -P -x c ${definitions} -I ${PROJECT_SOURCE_DIR}/src
+            ${PROJECT_SOURCE_DIR}/src/boundary/exports.map.in -o ${map}
+    DEPENDS ${PROJECT_SOURCE_DIR}/src/boundary/exports.map.in ${PROJECT_SOURCE_DIR}/src/boundary/exports.def
     VERBATIM)
   add_custom_target(${name}_map DEPENDS ${map})
   add_library(${name} SHARED ${ARGN})
@@ -73,11 +73,11 @@ set_target_properties(orbs90lgc PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION 
 
 # For tests and benchmarks only: never installed.
 orbs_add_library(orbs90lgc_pinnable -DORBS_PINNABLE ${ORBS_OBJECTS} $<TARGET_OBJECTS:orbs_pin>)
-target_include_directories(orbs90lgc_pinnable INTERFACE ${PROJECT_SOURCE_DIR})
+target_include_directories(orbs90lgc_pinnable INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
 # The inside of the library without its boundary, for the tests and benchmarks of what is not exported.
 add_library(orbs_inside INTERFACE)
 target_sources(orbs_inside INTERFACE
     $<TARGET_OBJECTS:orbs_dispatch> $<TARGET_OBJECTS:orbs_boundary> $<TARGET_OBJECTS:orbs_common> ${variant_objects})
-target_include_directories(orbs_inside INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+target_include_directories(orbs_inside INTERFACE ${ORBS_INCLUDE_DIRS})
 target_link_libraries(orbs_inside INTERFACE m)

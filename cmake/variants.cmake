@@ -15,6 +15,9 @@ endif()
 
 set(ORBS_OPTIMIZATION -O2 CACHE STRING "Optimization level of the library, whatever the build type")
 
+# Where the library's own code finds its headers.
+set(ORBS_INCLUDE_DIRS ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include)
+
 # What all code of the library has in common. Contraction is off since a fused multiply-add is written where it is meant;
 # errno is nobody's channel here, and without it roots and conversions compile to single instructions.
 set(ORBS_COMPILE_OPTIONS
@@ -53,7 +56,7 @@ set(ORBS_FLAGS_h9 ${ORBS_VECTOR_BASELINE_FLAGS} -mavx2 -mfma -mbmi -mbmi2 ${avx_
 function(orbs_add_variant variant)
   list(FIND ORBS_ALL_VARIANTS ${variant} index)
   add_library(orbs_${variant} OBJECT ${ARGN})
-  target_include_directories(orbs_${variant} PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+  target_include_directories(orbs_${variant} PRIVATE ${ORBS_INCLUDE_DIRS})
   target_compile_definitions(orbs_${variant} PRIVATE ORBS_VARIANT=${variant} ORBS_VARIANT_INDEX=${index})
   target_compile_options(orbs_${variant} PRIVATE ${ORBS_COMPILE_OPTIONS} ${ORBS_FLAGS_${variant}})
 endfunction()

@@ -3,7 +3,7 @@
 
 #if ORBS_VECTOR
 
-#include "frame/simd.h"
+#include "simd/simd.h"
 
 namespace orbs::ORBS_VARIANT {
 namespace {

@@ -3,7 +3,7 @@
 #ifndef ORBS_BENCH_FIR_PEAK_H
 #define ORBS_BENCH_FIR_PEAK_H
 
-#include "frame/variant.h"
+#include "core/variant.h"
 #include "orbs90lgc/types.h"
 
 namespace orbs::ORBS_VARIANT {

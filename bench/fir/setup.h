@@ -7,7 +7,7 @@
 
 #include "bench/compare.h"
 #include "bench/fir/peak.h"
-#include "frame/variant.h"
+#include "core/variant.h"
 
 namespace orbs::ORBS_VARIANT {
 

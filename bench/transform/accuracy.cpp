@@ -12,7 +12,7 @@
 #include <fftw3.h>
 
 #include "bench/variants.h"
-#include "tests/transform/fft_reference.h"
+#include "tests/transform/engine/reference.h"
 
 namespace orbs::bench {
 namespace {

@@ -1,6 +1,6 @@
 // Compiled once per variant.
 #include "bench/transform/accuracy.h"
-#include "frame/variant.h"
+#include "core/variant.h"
 #include "transform/fft.h"
 
 namespace orbs::ORBS_VARIANT {

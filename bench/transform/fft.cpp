@@ -7,7 +7,7 @@
 #include <type_traits>
 
 #include "bench/compare.h"
-#include "bench/transform/fft_peers.h"
+#include "bench/transform/peers.h"
 
 namespace orbs::bench {
 namespace {

@@ -6,9 +6,9 @@
 #include <numeric>
 #include <vector>
 
-#include "support/effort.h"
-#include "support/export_test.h"
-#include "support/guarded_array.h"
+#include "tests/support/effort.h"
+#include "tests/support/export_test.h"
+#include "tests/support/guarded_array.h"
 
 namespace orbs::test {
 namespace {

@@ -5,11 +5,11 @@
 #include <random>
 #include <vector>
 
-#include "gen/tone_forms.h"
-#include "support/effort.h"
-#include "support/export_test.h"
-#include "support/failing_allocator.h"
-#include "support/guarded_array.h"
+#include "tests/gen/tone_forms.h"
+#include "tests/support/effort.h"
+#include "tests/support/export_test.h"
+#include "tests/support/failing_allocator.h"
+#include "tests/support/guarded_array.h"
 
 namespace orbs::test {
 namespace {

@@ -4,9 +4,9 @@
 #include <limits>
 #include <vector>
 
-#include "support/export_test.h"
-#include "support/guarded_array.h"
-#include "support/random_data.h"
+#include "tests/support/export_test.h"
+#include "tests/support/guarded_array.h"
+#include "tests/support/random_data.h"
 
 namespace orbs::test {
 namespace {

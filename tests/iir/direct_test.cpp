@@ -4,10 +4,10 @@
 #include <cmath>
 #include <limits>
 
-#include "support/export_test.h"
-#include "support/failing_allocator.h"
-#include "support/guarded_array.h"
-#include "support/random_data.h"
+#include "tests/support/export_test.h"
+#include "tests/support/failing_allocator.h"
+#include "tests/support/guarded_array.h"
+#include "tests/support/random_data.h"
 
 namespace orbs::test {
 namespace {

@@ -2,11 +2,11 @@
 #include <algorithm>
 #include <limits>
 
-#include "iir_filters.h"
-#include "support/effort.h"
-#include "support/export_test.h"
-#include "support/guarded_array.h"
-#include "support/random_data.h"
+#include "tests/iir/filters.h"
+#include "tests/support/effort.h"
+#include "tests/support/export_test.h"
+#include "tests/support/guarded_array.h"
+#include "tests/support/random_data.h"
 
 namespace orbs::test {
 namespace {

@@ -1,10 +1,10 @@
 // States of IIR filters: sizes, statuses and their order, normalising, accessors, failed allocations.
 #include <limits>
 
-#include "iir_filters.h"
-#include "support/export_test.h"
-#include "support/failing_allocator.h"
-#include "support/random_data.h"
+#include "tests/iir/filters.h"
+#include "tests/support/export_test.h"
+#include "tests/support/failing_allocator.h"
+#include "tests/support/random_data.h"
 
 namespace orbs::test {
 namespace {

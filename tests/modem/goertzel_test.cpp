@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "support/effort.h"
-#include "support/export_test.h"
-#include "support/guarded_array.h"
-#include "support/random_data.h"
+#include "tests/support/effort.h"
+#include "tests/support/export_test.h"
+#include "tests/support/guarded_array.h"
+#include "tests/support/random_data.h"
 
 namespace orbs::test {
 namespace {

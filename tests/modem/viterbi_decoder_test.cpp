@@ -4,7 +4,7 @@
 #include <random>
 #include <vector>
 
-#include "support/export_test.h"
+#include "tests/support/export_test.h"
 
 namespace orbs::test {
 namespace {

@@ -1,6 +1,6 @@
 /* See checked_calls.h. Tests are linked so that their calls of an export arrive at its __wrap_ entry here. */
 
-#include "support/checked_calls.h"
+#include "tests/support/checked_calls.h"
 
     .hidden orbsAfterCall
     .hidden orbsHasAvx
@@ -169,6 +169,6 @@
     FUNCTION_END(orbsUpperHalvesHoldData)
 
     .set orbsExport, 0
-#include "frame/exports.def"
+#include "boundary/exports.def"
 
     .section .note.GNU-stack, "", @progbits

@@ -1,4 +1,4 @@
-#include "support/checked_calls.h"
+#include "tests/support/checked_calls.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ struct Export {
 
 constexpr Export kExports[] = {
 #define ORBS_EXPORT(family, result, name, arguments) {#family, #name},
-#include "frame/exports.def"
+#include "boundary/exports.def"
 };
 constexpr int kExportCount = sizeof kExports / sizeof kExports[0];
 

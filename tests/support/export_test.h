@@ -2,9 +2,9 @@
 #ifndef ORBS_TESTS_SUPPORT_EXPORT_TEST_H
 #define ORBS_TESTS_SUPPORT_EXPORT_TEST_H
 
-#include "frame/pin.h"
+#include "boundary/pin.h"
 #include "orbs90lgc.h"
-#include "support/variants.h"
+#include "tests/support/variants.h"
 
 namespace orbs::test {
 

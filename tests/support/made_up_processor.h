@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-#include "frame/cpuid.h"
+#include "boundary/cpuid.h"
 
 namespace orbs::test {
 

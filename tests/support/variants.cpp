@@ -1,4 +1,4 @@
-#include "support/variants.h"
+#include "tests/support/variants.h"
 
 #include <cpuid.h>
 

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "frame/variants.h"
+#include "core/variants.h"
 
 namespace orbs::test {
 

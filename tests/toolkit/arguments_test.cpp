@@ -1,9 +1,9 @@
 // The answer of every row to bad arguments.
 #include <utility>
 
-#include "support/guarded_array.h"
-#include "toolkit_table.h"
-#include "values.h"
+#include "tests/support/guarded_array.h"
+#include "tests/toolkit/toolkit_table.h"
+#include "tests/toolkit/values.h"
 
 namespace orbs::test {
 namespace {

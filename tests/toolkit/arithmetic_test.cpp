@@ -1,5 +1,5 @@
 // Real, complex and integer arithmetic.
-#include "sweep.h"
+#include "tests/toolkit/sweep.h"
 
 namespace orbs::test {
 namespace {

@@ -2,7 +2,7 @@
 #include <cfenv>
 #include <cfloat>
 
-#include "sweep.h"
+#include "tests/toolkit/sweep.h"
 
 namespace orbs::test {
 namespace {

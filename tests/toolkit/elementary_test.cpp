@@ -1,5 +1,5 @@
 // Logarithm, exponential and square root.
-#include "sweep.h"
+#include "tests/toolkit/sweep.h"
 
 namespace orbs::test {
 namespace {

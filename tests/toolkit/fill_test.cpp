@@ -1,9 +1,9 @@
 // Fills: small ones at every length and alignment, and those that stream past the cache.
 #include <functional>
 
-#include "frame/cache.h"
-#include "support/guarded_array.h"
-#include "toolkit_table.h"
+#include "boundary/cache.h"
+#include "tests/support/guarded_array.h"
+#include "tests/toolkit/toolkit_table.h"
 
 // What the library gets for orbs::QueryCacheSize: the linker binds it to this.
 static orbs::CacheAnswer cacheAnswer;

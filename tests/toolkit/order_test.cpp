@@ -1,7 +1,7 @@
 // Copies, moves, reversal, interleaving.
 #include <algorithm>
 
-#include "sweep.h"
+#include "tests/toolkit/sweep.h"
 
 namespace orbs::test {
 namespace {

@@ -18,10 +18,10 @@
 #include <tuple>
 #include <utility>
 
-#include "support/guarded_array.h"
-#include "support/random_data.h"
-#include "toolkit_table.h"
-#include "values.h"
+#include "tests/support/guarded_array.h"
+#include "tests/support/random_data.h"
+#include "tests/toolkit/toolkit_table.h"
+#include "tests/toolkit/values.h"
 
 namespace orbs::test {
 

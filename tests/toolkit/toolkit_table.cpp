@@ -1,4 +1,4 @@
-#include "toolkit_table.h"
+#include "tests/toolkit/toolkit_table.h"
 
 // Every variant's functions have the types of px. A variant that the build leaves out is named px here.
 #define ORBS_DECLARE(a, row) decltype(px::row) row;

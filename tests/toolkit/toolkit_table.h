@@ -8,11 +8,11 @@
 // The types of the functions are the same in all variants: they are taken from px.
 #define ORBS_VARIANT px
 #define ORBS_VARIANT_INDEX 0
-#include "frame/toolkit.h"
+#include "toolkit/toolkit.h"
 #undef ORBS_VARIANT
 #undef ORBS_VARIANT_INDEX
 
-#include "support/variants.h"
+#include "tests/support/variants.h"
 
 // X(argument, row) for every row: with a status, without one, and without a count.
 // clang-format off

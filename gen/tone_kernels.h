@@ -1,8 +1,0 @@
-// The loops of the tones: GenerateTone and GenerateIndexedTone.
-#ifndef ORBS_GEN_TONE_KERNELS_H
-#define ORBS_GEN_TONE_KERNELS_H
-
-#include "gen/tone_scalar.h"
-#include "gen/tone_vector.h"
-
-#endif

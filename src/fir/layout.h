@@ -1,0 +1,133 @@
+// What the block of a FIR state with floating-point taps holds: the one description from which the size
+// query, Init and InitAlloc take their numbers.
+#ifndef ORBS_FIR_LAYOUT_H
+#define ORBS_FIR_LAYOUT_H
+
+#include "fir/kinds.h"
+#include "fir/tuning.h"
+#include "simd/simd.h"
+#include "toolkit/toolkit.h"
+#include "transform/fft.h"
+
+namespace orbs::ORBS_VARIANT {
+
+// ---- The plan that belongs to a tap type ----
+
+template <class Tap>
+struct FirFft;
+
+#define ORBS_FIR_FFT(Tap, suffix, forward, inverse, product)                                             \
+  template <>                                                                                            \
+  struct FirFft<Tap> {                                                                                   \
+    using Plan = FFTSpec_##suffix;                                                                       \
+    static OrbStatus GetSize(Orb32s order, Orb32s* plan, Orb32s* init, Orb32s* work) {                   \
+      return FFTGetSize_##suffix(order, FftScaleInvByN, HintNone, plan, init, work);                     \
+    }                                                                                                    \
+    static OrbStatus Init(Plan** planOut, Orb32s order, void* plan, void* init) {                        \
+      return FFTInit_##suffix(planOut, order, FftScaleInvByN, HintNone, plan, init);                     \
+    }                                                                                                    \
+    static OrbStatus Forward(const Tap* src, Tap* dst, const Plan* plan, void* work) {                   \
+      return forward(src, dst, plan, work);                                                              \
+    }                                                                                                    \
+    static OrbStatus Inverse(Tap* x, const Plan* plan, void* work) { return inverse(x, x, plan, work); } \
+    static void Multiply(const Tap* by, Tap* x, Orb32s n) { product(by, x, n); }                         \
+  };
+ORBS_FIR_FFT(Orb32f, R_32f, FFTFwd_RToPerm_32f, FFTInv_PermToR_32f, VecMulPerm_32f_I)
+ORBS_FIR_FFT(Orb64f, R_64f, FFTFwd_RToPerm_64f, FFTInv_PermToR_64f, VecMulPerm_64f_I)
+ORBS_FIR_FFT(Orb32fc, C_32fc, FFTFwd_CToC_32fc, FFTInv_CToC_32fc, VecMul_32fc_I)
+ORBS_FIR_FFT(Orb64fc, C_64fc, FFTFwd_CToC_64fc, FFTInv_CToC_64fc, VecMul_64fc_I)
+#undef ORBS_FIR_FFT
+
+// The smallest order whose half holds more than n points: L is 2n+2 to 4n, so that at least half of each
+// transform is useful output.
+constexpr Orb32s FirFftOrder(Orb32s n) {
+  Orb32s k = 2;
+  while ((int64_t{1} << k) <= n) ++k;
+  return k + 1;
+}
+
+// ---- The block ----
+
+struct FirFftSizes {
+  Orb32s order = 0;
+  Orb32s length = 0;  // L; 0: no FFT path
+  Orb32s plan = 0;
+  Orb32s init = 0;
+  Orb32s work = 0;
+
+  int64_t Total() const { return int64_t{plan} + init + work; }
+};
+
+// `fromTaps` is the threshold; a transform that the engine refuses means no FFT path.
+template <class Tap>
+FirFftSizes SizeFirFft(Orb32s n, Orb32s fromTaps) {
+  FirFftSizes sizes;
+  if (n < fromTaps) return sizes;
+  sizes.order = FirFftOrder(n);
+  if (FirFft<Tap>::GetSize(sizes.order, &sizes.plan, &sizes.init, &sizes.work) != StatusOk) return {};
+  sizes.length = Orb32s{1} << sizes.order;
+  return sizes;
+}
+
+#if ORBS_VECTOR
+template <class Part>
+inline constexpr int kFirLanes = VectorOf<Part>::kLanes;
+#else
+template <class Part>
+inline constexpr int kFirLanes = 1;
+#endif
+
+// Elements of a vector.
+template <class Tap>
+inline constexpr int kFirElements = kIsPx ? 1 : kFirLanes<PartOf<Tap>> / PartsOf<Tap>::kCount;
+
+struct FirLayout {
+  BlockLayout block{0, 1};
+  FIRFloatState offsets{};
+  Offset<unsigned char> plan{};
+  Offset<unsigned char> init{};
+};
+
+template <class Tap>
+FirLayout DescribeFir(Orb32s n, const FirFftSizes& fft) {
+  using Part = PartOf<Tap>;
+  constexpr int kParts = PartsOf<Tap>::kCount;
+  constexpr int kAlignment = 16;
+  FirLayout layout;
+  FIRFloatState& at = layout.offsets;
+  BlockLayout& block = layout.block;
+  block = BlockLayout(sizeof(FIRFloatState), kAlignment);
+  const auto add = [&block](int64_t parts) { return Offset<void>{block.Add<Part>(parts, kAlignment).bytes}; };
+  at.taps = add(int64_t{n} * kParts);
+  // Behind the samples, room for reading whole vectors.
+  const int64_t room = kIsPx ? 0 : 3 * kFirLanes<Part>;
+  at.delayLine = add((3 * int64_t{n} + 4) * kParts + room);
+#if ORBS_VECTOR
+  if constexpr (std::is_same_v<Tap, Orb32f>) {
+    at.preciseTaps = block.Add<Orb64f>(n, kAlignment);
+  }
+#endif
+  at.blockBuf = add(int64_t{kFirBlock} * kParts);
+  at.fftLen = -1;
+  if (fft.length != 0) {
+    at.fftLen = fft.length;
+    at.tapsSpectrum = add(int64_t{fft.length} * kParts);
+    at.fftWork = add(int64_t{fft.length} * kParts);
+    // These align themselves.
+    layout.plan = block.Add<unsigned char>(fft.plan, 1);
+    layout.init = block.Add<unsigned char>(fft.init, 1);
+    at.fftBuffer.bytes = block.Add<unsigned char>(fft.work, 1).bytes;
+  }
+  return layout;
+}
+
+// What a caller has to give. The parts of the FFT path come on top of the sizes of tuning.h.
+template <class Tap>
+int64_t FirStateBytes(Orb32s n, const FirFftSizes& fft) {
+  return FirBytes<Tap>(n) + 2 * RoundUp(int64_t{fft.length} * static_cast<int64_t>(sizeof(Tap)), 16) +
+         fft.Total();
+}
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif

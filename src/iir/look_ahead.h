@@ -1,0 +1,275 @@
+// The block recursion: y[n] = w[n] + c[1] y[n-1] + ... + c[N] y[n-N], a vector of results at a time.
+//
+// Written out, a vector of R results depends on the N results before it and on its own w alone:
+//   (y[n], ..., y[n+R-1]) = v + y[n-1] T[1] + ... + y[n-N] T[N]
+// with the rows T of the look-ahead table, and with v the results that the same w would give after silence.
+// v carries no recursion from vector to vector, so that only the sum over the rows stands in the way of the
+// next vector.
+//
+// v itself is made in steps. Within a quarter register (four parts) w[0] reaches the elements after it by
+// T[1] moved up by one, w[1] by T[1] moved up by two, and so on. Then the results of the low quarter reach
+// those of the high one by the rows T.
+//
+// The orders 1 and 2, and so all biquads, have everything in registers. They take two vectors a round: the
+// second has its rows too, so that one wait for a sum yields 2 R results.
+#ifndef ORBS_IIR_LOOK_AHEAD_H
+#define ORBS_IIR_LOOK_AHEAD_H
+
+#include <cstring>
+
+#include "simd/blocks.h"
+#include "simd/lanes.h"
+#include "iir/layout.h"
+
+#if ORBS_VECTOR
+
+namespace orbs::ORBS_VARIANT {
+
+inline constexpr int kQuarterParts = 4;
+inline constexpr int kVectorParts = F32::kLanes;
+
+// A number in all elements of a vector, and a sum of products with rows. Complex sums are kept in two parts,
+// of re and of im, so that the swap is made once a sum:  sum = a + i b.
+template <int kParts>
+struct Factor;
+template <>
+struct Factor<1> {
+  F32 re;
+  static ORBS_INLINE Factor Load(const Orb32f* p) { return {F32::All(p[0])}; }
+  ORBS_INLINE Factor operator+(Factor f) const { return {re + f.re}; }
+  ORBS_INLINE Factor operator-(Factor f) const { return {re - f.re}; }
+};
+template <>
+struct Factor<2> {
+  F32 re;
+  F32 im;
+  static ORBS_INLINE Factor Load(const Orb32f* p) { return {F32::All(p[0]), F32::All(p[1])}; }
+  ORBS_INLINE Factor operator+(Factor f) const { return {re + f.re, im + f.im}; }
+  ORBS_INLINE Factor operator-(Factor f) const { return {re - f.re, im - f.im}; }
+};
+
+// One element of a vector as a factor: for all its elements, or for those of its own quarter.
+template <int kParts, int element>
+ORBS_INLINE Factor<kParts> FactorOf(F32 a) {
+  if constexpr (kParts == 1) {
+    return {AllOf<element>(a)};
+  } else {
+    return {AllOf<2 * element>(a), AllOf<2 * element + 1>(a)};
+  }
+}
+template <int kParts, int element>
+ORBS_INLINE Factor<kParts> QuarterFactorOf(F32 a) {
+  if constexpr (kParts == 1) {
+    return {AllOfQuarter<element>(a)};
+  } else {
+    return {AllOfQuarter<2 * element>(a), AllOfQuarter<2 * element + 1>(a)};
+  }
+}
+
+template <int kParts>
+struct RowSum;
+template <>
+struct RowSum<1> {
+  F32 a;
+  static ORBS_INLINE RowSum Of(Factor<1> f, F32 row) { return {f.re * row}; }
+  static ORBS_INLINE RowSum From(F32 start) { return {start}; }
+  ORBS_INLINE void Add(Factor<1> f, F32 row) { a = MulAdd(f.re, row, a); }
+  ORBS_INLINE F32 Value() const { return a; }
+};
+template <>
+struct RowSum<2> {
+  F32 a;
+  F32 b;
+  static ORBS_INLINE RowSum Of(Factor<2> f, F32 row) { return {f.re * row, f.im * row}; }
+  static ORBS_INLINE RowSum From(F32 start) { return {start, F32::Zero()}; }
+  ORBS_INLINE void Add(Factor<2> f, F32 row) {
+    a = MulAdd(f.re, row, a);
+    b = MulAdd(f.im, row, b);
+  }
+  ORBS_INLINE F32 Value() const { return AddRotated(a, b); }
+};
+
+// What turns w into v. kReach rows, as many as the order, reach from the low quarter into the high one.
+template <int kParts, int kReach>
+class Silence {
+ public:
+  static constexpr int kElements = kQuarterParts / kParts;
+
+  // rows: T[1] to T[kReach].
+  ORBS_INLINE explicit Silence(const F32 (&rows)[kReach]) {
+    Orb32f moved[kQuarterParts + kVectorParts] = {};
+    rows[0].Store(moved + kQuarterParts);
+    ForConstants<kElements - 1>(
+        [&](auto e) { LoadQuarterToAll(moved + kQuarterParts - (e + 1) * kParts, &within_[e]); });
+#ifdef __AVX__
+    ForConstants<kReach>([&](auto k) { across_[k] = LowQuarterMovedUp(rows[k]); });
+#endif
+  }
+
+  // The first step, and the second.
+  ORBS_INLINE F32 Within(F32 w) const {
+    auto sum = RowSum<kParts>::From(w);
+    ForConstants<kElements - 1>([&](auto e) { sum.Add(QuarterFactorOf<kParts, e>(w), within_[e]); });
+    return sum.Value();
+  }
+  ORBS_INLINE F32 Across(F32 v) const {
+#ifdef __AVX__
+    auto sum = RowSum<kParts>::From(v);
+    ForConstants<kReach>([&](auto k) { sum.Add(FactorOf<kParts, kElements - 1 - k>(v), across_[k]); });
+    return sum.Value();
+#else
+    return v;
+#endif
+  }
+
+ private:
+  F32 within_[kElements - 1];
+#ifdef __AVX__
+  F32 across_[kReach];
+#endif
+};
+
+// ---- Orders 1 and 2 ----
+
+// kPairing is that of the table's first row, 0 for order 1.
+template <int kParts, int kOrder, int kPairing = 0>
+class ShortRecursion {
+ public:
+  static constexpr int kElements = kVectorParts / kParts;
+
+  // b[0] to b[N], and the rows of the table.
+  ORBS_INLINE ShortRecursion(const Orb32f* b, const Orb32f* rows) : ShortRecursion(b, Rows(rows)) {}
+
+  // Results first to count-1 from the input u; those before, at least N, are there.
+  ORBS_INLINE void Run(const Orb32f* u, Orb32f* y, Orb32s first, Orb32s count) {
+    constexpr size_t kVector = kVectorParts;
+    const size_t end = static_cast<size_t>(count) * kParts;
+    size_t i = static_cast<size_t>(first) * kParts;
+    LoadPast(y + i);
+    i += RunRounds(u + i, y + i, (end - i) / kRound);
+    // Less than a round. What is read behind the input lies within the state, and is masked.
+    for (; i < end; i += kVector) {
+      F32 w = Numerator(u + i);
+      const size_t n = end - i;
+      if (n < kVector) w = FirstLanes(w, n);
+      const F32 result = AddPast(silence_.Across(silence_.Within(w)), rows_.near);
+      newest_ = result;
+      if (n >= kVector) {
+        result.Store(y + i);
+      } else {
+        Orb32f results[kVector];
+        result.Store(results);
+        CopyFew<kVector * sizeof *y / 2>(y + i, results, n);
+      }
+    }
+  }
+
+ private:
+  static_assert(kOrder <= kElements, "all of the past that counts stands in one vector");
+  static constexpr size_t kRound = kShortRowParts;
+
+  // The table's rows.
+  struct Rows {
+    F32 plain[kOrder];
+    F32 near[kOrder];
+    F32 far[kOrder];
+
+    ORBS_INLINE explicit Rows(const Orb32f* table) {
+      ForConstants<kOrder>([&](auto k) {
+        plain[k] = near[k] = F32::Load(table + k * kShortRowParts);
+        far[k] = F32::Load(table + k * kShortRowParts + kVectorParts);
+      });
+      if constexpr (kPairing == 1) plain[0] = near[0] - near[1];
+      if constexpr (kPairing == -1) plain[0] = near[0] + near[1];
+    }
+    ORBS_INLINE Silence<kParts, kOrder> MakeSilence() const { return Silence<kParts, kOrder>(plain); }
+  };
+
+  ORBS_INLINE ShortRecursion(const Orb32f* b, const Rows& rows) : rows_(rows), silence_(rows.MakeSilence()) {
+    ForConstants<kOrder + 1>([&](auto k) { b_[k] = Factor<kParts>::Load(b + k * kParts); });
+  }
+
+  ORBS_INLINE F32 Numerator(const Orb32f* u) const {
+    auto sum = RowSum<kParts>::Of(b_[kOrder], F32::Load(u - kOrder * kParts));
+    ForConstants<kOrder>(
+        [&](auto k) { sum.Add(b_[kOrder - 1 - k], F32::Load(u - (kOrder - 1 - k) * kParts)); });
+    return sum.Value();
+  }
+
+  // y[n-1-k].
+  template <int k>
+  ORBS_INLINE Factor<kParts> Past() const {
+    return FactorOf<kParts, kElements - 1 - k>(newest_);
+  }
+
+  // A vector whose last elements are the N results before y.
+  ORBS_INLINE void LoadPast(const Orb32f* y) {
+    Orb32f past[kVectorParts] = {};
+    std::memcpy(past + kVectorParts - kOrder * kParts, y - kOrder * kParts, kOrder * kParts * sizeof *y);
+    newest_ = F32::Load(past);
+  }
+
+  ORBS_INLINE F32 AddPast(F32 v, const F32 (&rows)[kOrder]) const {
+    auto sum = RowSum<kParts>::From(v);
+    if constexpr (kPairing != 0) {
+      const auto last = Past<0>();
+      const auto change = kPairing == 1 ? Past<1>() - last : Past<1>() + last;
+      sum.Add(last, rows[0]);
+      sum.Add(change, rows[1]);
+    } else {
+      ForConstants<kOrder>([&](auto k) { sum.Add(Past<kOrder - 1 - k>(), rows[kOrder - 1 - k]); });
+    }
+    return sum.Value();
+  }
+
+  // A round in three stages. Each is a chain of dependent sums; the loop runs the stages of three rounds side
+  // by side, since the processor does not look far enough ahead to find the next round by itself.
+  struct Round {
+    F32 first;
+    F32 second;
+  };
+  ORBS_INLINE Round Begin(const Orb32f* u) const {
+    return {silence_.Within(Numerator(u)), silence_.Within(Numerator(u + kVectorParts))};
+  }
+  ORBS_INLINE Round Complete(Round round) const {
+    const F32 first = silence_.Across(round.first);
+    auto second = RowSum<kParts>::From(silence_.Across(round.second));
+    ForConstants<kOrder>(
+        [&](auto k) { second.Add(FactorOf<kParts, kElements - 1 - k>(first), rows_.plain[k]); });
+    return {first, second.Value()};
+  }
+  ORBS_INLINE void Finish(Round round, Orb32f* y) {
+    AddPast(round.first, rows_.near).Store(y);
+    newest_ = AddPast(round.second, rows_.far);
+    newest_.Store(y + kVectorParts);
+  }
+
+  // The parts that this has made.
+  ORBS_INLINE size_t RunRounds(const Orb32f* u, Orb32f* y, size_t rounds) {
+    const size_t parts = rounds * kRound;
+    if (rounds < 2) {
+      if (rounds == 1) Finish(Complete(Begin(u)), y);
+      return parts;
+    }
+    Round complete = Complete(Begin(u));
+    Round begun = Begin(u + kRound);
+    for (; rounds > 2; --rounds, u += kRound, y += kRound) {
+      Finish(complete, y);
+      complete = Complete(begun);
+      begun = Begin(u + 2 * kRound);
+    }
+    Finish(complete, y);
+    Finish(Complete(begun), y + kRound);
+    return parts;
+  }
+
+  Rows rows_;
+  Silence<kParts, kOrder> silence_;
+  Factor<kParts> b_[kOrder + 1];
+  F32 newest_;
+};
+
+}  // namespace orbs::ORBS_VARIANT
+
+#endif
+#endif

@@ -1,0 +1,333 @@
+// The life cycle of the plans.
+#include <cstring>
+
+#include "core/checks.h"
+#include "core/memory.h"
+#include "transform/fft.h"
+#include "transform/engine/px/core.h"
+#include "transform/engine/layout.h"
+#include "transform/engine/sine.h"
+#include "transform/engine/tables.h"
+#include "transform/tuning.h"
+#if ORBS_VECTOR
+#include "transform/engine/vector/transform.h"
+#endif
+
+namespace orbs::ORBS_VARIANT {
+namespace {
+
+constexpr Orb32s kLargestOrderAsked = 30;  // beyond it a size query does not look at anything else
+
+template <class Plan>
+constexpr Orb32s MaxOrder() {
+  return Pick<typename Plan::Real>(Plan::kForm == FftForm::real ? kFftTuning.maxRealOrder
+                                                                : kFftTuning.maxComplexOrder);
+}
+
+template <class Plan>
+OrbStatus GetSize(Orb32s order, Orb32s flag, Orb32s* planSize, Orb32s* initSize, Orb32s* workSize) {
+  if (order < 0 || order > kLargestOrderAsked) return StatusFftOrder;
+  ORBS_RETURN_IF_BAD(CheckResults(planSize, initSize, workSize));
+  if (!IsFftFlag(flag)) return StatusFftFlag;
+  if (order > MaxOrder<Plan>()) return StatusFftOrder;
+  const auto layout = DescribeFft<typename Plan::Real>(Plan::kForm, order);
+  *planSize = ReportedBytes(layout.PlanBytes());
+  *initSize = ReportedBytes(layout.InitBytes());
+  *workSize = ReportedBytes(layout.WorkBytes());
+  return StatusOk;
+}
+
+// 2^-order or its root, correctly rounded.
+ORBS_INLINE Orb64f ScaleByN(Orb32s order) { return 1.0 / static_cast<Orb64f>(Orb64s{1} << order); }
+ORBS_INLINE Orb64f ScaleBySqrtN(Orb32s order) {
+  return ((order & 1) != 0 ? 0.70710678118654752440 : 1.0) * ScaleByN(order >> 1);
+}
+
+// ---- Tables ----
+
+#if ORBS_VECTOR
+
+template <class T>
+void BuildComplexTables(int order, SineTable<T> sine, const FftLayout<T>& layout, FftPlan<T>* plan,
+                        void* init) {
+  if (order <= Pick<T>(kFftTuning.onePassCeiling)) {
+    BuildVectorTables(order, sine, plan->tables.bitRev.In(plan), plan->tables.coreTw.In(plan));
+  } else {
+    BuildVectorLarge(order, sine, layout, plan, init);
+  }
+}
+
+#else
+
+template <class T>
+void BuildSplit(int order, int level, SineTable<T> sine, const FftLayout<T>& layout, FftPlan<T>* plan,
+                void* init) {
+  const FftTables<T>& tables = plan->tables;
+  const int columnOrder = FftSplitOrder<T>(order);
+  const int rowOrder = order - columnOrder;
+  if (columnOrder == 0) {
+    BuildCoreTable(sine.Of(kCoreOrder), tables.coreTw.In(plan));
+    BuildLayerTable(sine.Of(order), tables.layerTw.In(plan));
+    return;
+  }
+  if (rowOrder <= kCoreOrder) {
+    BuildCoreTable(sine.Of(rowOrder), tables.coreTw.In(plan));
+  } else {
+    BuildSplit(rowOrder, level + 1, sine, layout, plan, init);
+  }
+  BuildCoreTable(sine.Of(columnOrder), tables.colCoreTw[level].In(plan));
+  BuildStepTable(sine.Of(order), columnOrder, layout.initBitRev[level].In(init),
+                 layout.initColumns[level].In(init), tables.stepTw[level].In(plan));
+}
+
+template <class T>
+void BuildComplexTables(int order, SineTable<T> sine, const FftLayout<T>& layout, FftPlan<T>* plan,
+                        void* init) {
+  BuildBitRevTable(order, plan->tables.bitRev.In(plan));
+  if (order <= kCoreOrder) {
+    BuildCoreTable(sine, plan->tables.coreTw.In(plan));
+  } else {
+    BuildSplit(order, 0, sine, layout, plan, init);
+  }
+}
+
+#endif
+
+// All tables of a plan whose record is filled in. `init` is aligned.
+template <class T>
+void BuildTables(FftForm form, const FftLayout<T>& layout, FftPlan<T>* plan, void* init) {
+  SineTable<T> sine;
+  if (plan->order <= kSinQuarterOrder) {
+    sine = ConstantSines<T>(plan->order);
+  } else {
+    BuildSineTable(plan->order, static_cast<T*>(init));
+    sine = {static_cast<T*>(init), plan->order, 1};
+  }
+  if (form != FftForm::real) {
+    BuildComplexTables(plan->order, sine, layout, plan, init);
+    return;
+  }
+  if (plan->order > kFftTuning.halfCodeletCeiling) {
+    BuildComplexTables(plan->order - 1, sine.Of(plan->order - 1), layout, plan, init);
+  }
+  BuildRealTables(sine, plan->tables.realFwdTw.In(plan), plan->tables.realInvTw.In(plan));
+}
+
+// ---- Init, InitAlloc, Free, GetBufSize ----
+
+template <class Plan>
+OrbStatus SetScale(Orb32s flag, Plan* plan) {
+  using T = typename Plan::Real;
+  switch (flag) {
+    case FftScaleNone:
+      return StatusOk;
+    case FftScaleFwdByN:
+      plan->scaleFwd = 1;
+      plan->scale = static_cast<T>(ScaleByN(plan->order));
+      return StatusOk;
+    case FftScaleInvByN:
+      plan->scaleInv = 1;
+      plan->scale = static_cast<T>(ScaleByN(plan->order));
+      return StatusOk;
+    case FftScaleBySqrtN:
+      plan->scaleFwd = 1;
+      plan->scaleInv = 1;
+      plan->scale = static_cast<T>(ScaleBySqrtN(plan->order));
+      return StatusOk;
+    default:
+      return StatusFftFlag;
+  }
+}
+
+template <class Plan>
+OrbStatus Build(Orb32s flag, void* initBuffer, Plan* plan) {
+  using T = typename Plan::Real;
+  ORBS_RETURN_IF_BAD(SetScale(flag, plan));
+  const FftLayout<T> layout = DescribeFft<T>(Plan::kForm, plan->order);
+  if (!layout.plan.Fits()) return StatusMemAlloc;
+  plan->tables = layout.tables;
+  plan->workSize = static_cast<Orb32s>(layout.workSize);
+  const bool hasTables = layout.plan.Bytes() > static_cast<int64_t>(sizeof(Plan));
+  if (!hasTables) return StatusOk;
+  if (layout.InitBytes() != 0 && initBuffer == nullptr) return StatusNullPointer;
+  BuildTables<T>(Plan::kForm, layout, plan,
+                 AlignUp(static_cast<unsigned char*>(initBuffer), kBlockAlignment));
+  return StatusOk;
+}
+
+template <class Plan>
+OrbStatus Init(Plan** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* planMemory,
+               void* initBuffer) {
+  if (planOut == nullptr) return StatusNullPointer;
+  if (order < 0 || order > MaxOrder<Plan>()) return StatusFftOrder;
+  if (planMemory == nullptr) return StatusNullPointer;
+  auto* plan = reinterpret_cast<Plan*>(AlignUp(static_cast<unsigned char*>(planMemory), kBlockAlignment));
+  std::memset(static_cast<void*>(plan), 0, sizeof(Plan));
+  plan->hint = hint;
+  plan->order = order;
+  plan->id = Plan::kId;
+  const OrbStatus status = Build(flag, initBuffer, plan);
+  if (status != StatusOk) {
+    plan->id = 0;
+    return status;
+  }
+  *planOut = plan;
+  return StatusOk;
+}
+
+template <class Plan>
+OrbStatus InitAlloc(Plan** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
+  Orb32s sizes[3];
+  ORBS_RETURN_IF_BAD(GetSize<Plan>(order, flag, &sizes[0], &sizes[1], &sizes[2]));
+  if (planOut == nullptr) return StatusNullPointer;
+  const auto layout = DescribeFft<typename Plan::Real>(Plan::kForm, order);
+  void* block = AllocAligned(layout.PlanBytes());
+  if (block == nullptr) return StatusMemAlloc;
+  void* init = nullptr;
+  if (layout.InitBytes() != 0) {
+    init = AllocAligned(layout.InitBytes());
+    if (init == nullptr) {
+      FreeAligned(block);
+      return StatusMemAlloc;
+    }
+  }
+  Plan* plan = nullptr;
+  const OrbStatus status = Init(&plan, order, flag, hint, block, init);
+  FreeAligned(init);
+  if (status != StatusOk) {
+    FreeAligned(block);
+    return status;
+  }
+  plan->allocated = 1;
+  plan->block =
+      static_cast<Orb32s>(static_cast<unsigned char*>(block) - reinterpret_cast<unsigned char*>(plan));
+  *planOut = plan;
+  return StatusOk;
+}
+
+template <class Plan>
+OrbStatus Free(Plan* plan) {
+  ORBS_RETURN_IF_BAD(CheckPlan(plan, Plan::kId));
+  plan->id = 0;
+  if (plan->allocated == 1) FreeAligned(reinterpret_cast<unsigned char*>(plan) + plan->block);
+  return StatusOk;
+}
+
+template <class Plan>
+OrbStatus GetBufSize(const Plan* plan, Orb32s* size) {
+  ORBS_RETURN_IF_BAD(CheckPlan(plan, Plan::kId, size));
+  *size = plan->workSize >= 1 ? plan->workSize + kBlockAlignment : 0;
+  return StatusOk;
+}
+
+}  // namespace
+
+OrbStatus FFTGetSize_C_32fc(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
+                            Orb32s* workSize) {
+  return GetSize<FFTSpec_C_32fc>(order, flag, planSize, initSize, workSize);
+}
+
+OrbStatus FFTInit_C_32fc(FFTSpec_C_32fc** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint,
+                         void* planMemory, void* initBuffer) {
+  return Init(planOut, order, flag, hint, planMemory, initBuffer);
+}
+
+OrbStatus FFTInitAlloc_C_32fc(FFTSpec_C_32fc** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
+  return InitAlloc(planOut, order, flag, hint);
+}
+
+OrbStatus FFTFree_C_32fc(FFTSpec_C_32fc* plan) { return Free(plan); }
+
+OrbStatus FFTGetBufSize_C_32fc(const FFTSpec_C_32fc* plan, Orb32s* size) { return GetBufSize(plan, size); }
+
+OrbStatus FFTGetSize_C_32f(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
+                           Orb32s* workSize) {
+  return GetSize<FFTSpec_C_32f>(order, flag, planSize, initSize, workSize);
+}
+
+OrbStatus FFTInit_C_32f(FFTSpec_C_32f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* planMemory,
+                        void* initBuffer) {
+  return Init(planOut, order, flag, hint, planMemory, initBuffer);
+}
+
+OrbStatus FFTInitAlloc_C_32f(FFTSpec_C_32f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
+  return InitAlloc(planOut, order, flag, hint);
+}
+
+OrbStatus FFTFree_C_32f(FFTSpec_C_32f* plan) { return Free(plan); }
+
+OrbStatus FFTGetBufSize_C_32f(const FFTSpec_C_32f* plan, Orb32s* size) { return GetBufSize(plan, size); }
+
+OrbStatus FFTGetSize_R_32f(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
+                           Orb32s* workSize) {
+  return GetSize<FFTSpec_R_32f>(order, flag, planSize, initSize, workSize);
+}
+
+OrbStatus FFTInit_R_32f(FFTSpec_R_32f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* planMemory,
+                        void* initBuffer) {
+  return Init(planOut, order, flag, hint, planMemory, initBuffer);
+}
+
+OrbStatus FFTInitAlloc_R_32f(FFTSpec_R_32f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
+  return InitAlloc(planOut, order, flag, hint);
+}
+
+OrbStatus FFTFree_R_32f(FFTSpec_R_32f* plan) { return Free(plan); }
+
+OrbStatus FFTGetBufSize_R_32f(const FFTSpec_R_32f* plan, Orb32s* size) { return GetBufSize(plan, size); }
+
+OrbStatus FFTGetSize_C_64fc(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
+                            Orb32s* workSize) {
+  return GetSize<FFTSpec_C_64fc>(order, flag, planSize, initSize, workSize);
+}
+
+OrbStatus FFTInit_C_64fc(FFTSpec_C_64fc** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint,
+                         void* planMemory, void* initBuffer) {
+  return Init(planOut, order, flag, hint, planMemory, initBuffer);
+}
+
+OrbStatus FFTInitAlloc_C_64fc(FFTSpec_C_64fc** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
+  return InitAlloc(planOut, order, flag, hint);
+}
+
+OrbStatus FFTFree_C_64fc(FFTSpec_C_64fc* plan) { return Free(plan); }
+
+OrbStatus FFTGetBufSize_C_64fc(const FFTSpec_C_64fc* plan, Orb32s* size) { return GetBufSize(plan, size); }
+
+OrbStatus FFTGetSize_C_64f(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
+                           Orb32s* workSize) {
+  return GetSize<FFTSpec_C_64f>(order, flag, planSize, initSize, workSize);
+}
+
+OrbStatus FFTInit_C_64f(FFTSpec_C_64f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* planMemory,
+                        void* initBuffer) {
+  return Init(planOut, order, flag, hint, planMemory, initBuffer);
+}
+
+OrbStatus FFTInitAlloc_C_64f(FFTSpec_C_64f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
+  return InitAlloc(planOut, order, flag, hint);
+}
+
+OrbStatus FFTFree_C_64f(FFTSpec_C_64f* plan) { return Free(plan); }
+
+OrbStatus FFTGetBufSize_C_64f(const FFTSpec_C_64f* plan, Orb32s* size) { return GetBufSize(plan, size); }
+
+OrbStatus FFTGetSize_R_64f(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
+                           Orb32s* workSize) {
+  return GetSize<FFTSpec_R_64f>(order, flag, planSize, initSize, workSize);
+}
+
+OrbStatus FFTInit_R_64f(FFTSpec_R_64f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* planMemory,
+                        void* initBuffer) {
+  return Init(planOut, order, flag, hint, planMemory, initBuffer);
+}
+
+OrbStatus FFTInitAlloc_R_64f(FFTSpec_R_64f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
+  return InitAlloc(planOut, order, flag, hint);
+}
+
+OrbStatus FFTFree_R_64f(FFTSpec_R_64f* plan) { return Free(plan); }
+
+OrbStatus FFTGetBufSize_R_64f(const FFTSpec_R_64f* plan, Orb32s* size) { return GetBufSize(plan, size); }
+
+}  // namespace orbs::ORBS_VARIANT

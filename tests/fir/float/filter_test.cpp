@@ -1,0 +1,267 @@
+// FIR filters with floating-point taps: streams cut in every way, against the direct sum.
+#include "tests/fir/float/filters.h"
+#include "tests/support/effort.h"
+#include "tests/support/export_test.h"
+#include "tests/support/guarded_array.h"
+
+namespace orbs::test {
+namespace {
+
+class FirTest : public ExportTest {
+ protected:
+  // A stream filtered in the calls that `counts` tells: 0 is a one-sample call, a negative count a block in
+  // place, a positive one a block between guarded arrays. Each call's results are held against the exact
+  // ones.
+  template <class F>
+  void CheckStream(FIRFloatState* state, const std::vector<typename F::Tap>& taps,
+                   const std::vector<typename F::Data>& history, const std::vector<int>& counts,
+                   unsigned seed) {
+    using Data = typename F::Data;
+    size_t total = 0;
+    for (int count : counts) total += static_cast<size_t>(count == 0 ? 1 : std::abs(count));
+    const std::vector<Data> x = RandomNumbers<Data>(total, DataScale<Data>(), seed);
+    const std::vector<Exact> expected = ExactOutputs(taps, history, x);
+    const bool integers = std::is_integral_v<typename PartOf<Data>::Type>;
+    const Orb32s factor = std::is_integral_v<typename F::Tap> ? 3 + BitsOf(taps.size()) : integers ? 1 : 0;
+    const long double divisor = std::ldexp(1.0L, factor);
+    const long double tolerance = (Tolerance<F>(taps) - 0.5L) / divisor + 0.5L;
+    const long double allowed = factor == 0 ? Tolerance<F>(taps) : tolerance;
+    size_t done = 0;
+    for (int count : counts) {
+      const auto size = static_cast<size_t>(count == 0 ? 1 : std::abs(count));
+      const std::vector<Data> piece(x.begin() + static_cast<ptrdiff_t>(done),
+                                    x.begin() + static_cast<ptrdiff_t>(done + size));
+      const GuardedArray<Data> source(piece, done % 3);
+      GuardedArray<Data> result(size, done % 2);
+      OrbStatus status;
+      if (count == 0) {
+        status = F::One(source[0], result.data(), state, factor);
+      } else if (count > 0) {
+        status = F::Block(source.data(), result.data(), count, state, factor);
+      } else {
+        std::copy(piece.begin(), piece.end(), result.data());
+        status = F::InPlace(result.data(), -count, state, factor);
+      }
+      ASSERT_EQ(status, StatusOk);
+      ASSERT_TRUE(result.GuardsIntact());
+      for (size_t i = 0; i < size; ++i) {
+        const Exact error = ToExact(result[i]) - expected[done + i] / divisor;
+        // Single samples of binary32 are added up in more than that, and rounded once.
+        const bool once = std::is_same_v<F, Filter32f> && count == 0;
+        const long double rounded = std::abs(expected[done + i]) * 0x1p-24L + 1e-13L;
+        ASSERT_LE(std::max(std::abs(error.real()), std::abs(error.imag())), once ? rounded : allowed)
+            << F::kName << ", " << taps.size() << " taps, sample " << i << " of a call of " << count
+            << " after " << done;
+      }
+      done += size;
+    }
+    ExpectDelay<F>(state, history, x, taps.size());
+  }
+
+  static int BitsOf(size_t n) {
+    int bits = 0;
+    while (n >> bits) ++bits;
+    return bits;
+  }
+
+  // The delay line holds the last n samples, the newest first.
+  template <class F>
+  void ExpectDelay(const FIRFloatState* state, const std::vector<typename F::Data>& history,
+                   const std::vector<typename F::Data>& x, size_t n) {
+    GuardedArray<typename F::Data> delay(n);
+    ASSERT_EQ(F::GetDelay(state, delay.data()), StatusOk);
+    ASSERT_TRUE(delay.GuardsIntact());
+    for (size_t j = 0; j < n; ++j) {
+      const auto expected = j < x.size() ? x[x.size() - 1 - j] : history[j - x.size()];
+      ASSERT_EQ(ToExact(delay[j]), ToExact(expected)) << F::kName << ", " << n << " taps, element " << j;
+    }
+  }
+};
+ORBS_INSTANTIATE_VARIANTS(FirTest);
+
+std::vector<int> TapCounts() {
+  std::vector<int> counts;
+  for (int n = 1; n <= 70; ++n) counts.push_back(n);
+  for (int n : {99, 100, 101, 127, 128, 129, 255}) counts.push_back(n);
+  return counts;
+}
+
+// In exactly the bytes reported, at addresses of every alignment.
+TEST_P(FirTest, EveryTapCountInMemoryOfTheCaller) {
+  ForEachFilter([&](auto filter) {
+    using F = decltype(filter);
+    for (int n : TapCounts()) {
+      Orb32s size = 0;
+      ASSERT_EQ(F::Size(n, &size), StatusOk);
+      GuardedArray<unsigned char> block(static_cast<size_t>(size), static_cast<size_t>(n % 33));
+      const auto taps = RandomTaps<F>(n, 1u);
+      const auto history =
+          RandomNumbers<typename F::Data>(static_cast<size_t>(n), DataScale<typename F::Data>(), 2u);
+      FIRFloatState* state = nullptr;
+      ASSERT_EQ(F::Init(&state, taps.data(), n, history.data(), block.data()), StatusOk);
+      // Around the room of the delay line, and short ones in any mixture.
+      CheckStream<F>(state, taps, history,
+                     {1, 0, n, 0, 0, n + 1, -3, n + 4, n + 5, 7, n + 21, -(n + 9), 2, 0, 40}, 3u);
+      ASSERT_TRUE(block.GuardsIntact()) << F::kName << ", " << n << " taps";
+      EXPECT_EQ(F::Free(state), StatusOk);
+      auto again = taps;
+      ASSERT_EQ(F::GetTaps(state, again.data()), StatusOk);  // free left it alone
+      for (size_t i = 0; i < taps.size(); ++i) ASSERT_EQ(ToExact(again[i]), ToExact(taps[i]));
+    }
+  });
+}
+
+// Across the thresholds and the seams of overlap-save.
+TEST_P(FirTest, LongBlocks) {
+  ForEachFilter([&](auto filter) {
+    using F = decltype(filter);
+    for (int n : {15, 16, 31, 32, 63, 64, 100, 300}) {
+      if (!kThorough && n % 2 != 0) continue;
+      const auto taps = RandomTaps<F>(n, 4u);
+      const auto history =
+          RandomNumbers<typename F::Data>(static_cast<size_t>(n), DataScale<typename F::Data>(), 5u);
+      FIRFloatState* state = nullptr;
+      ASSERT_EQ(F::InitAlloc(&state, taps.data(), n, history.data()), StatusOk);
+      int length = 8;
+      while (length < 2 * n + 2) length *= 2;
+      const int outputs = length - n + 1;
+      CheckStream<F>(state, taps, history,
+                     {255, 256, 511, 512, 0, outputs, -600, outputs + 1, length, 2 * outputs, -512, 0, 300},
+                     6u);
+      EXPECT_EQ(F::Free(state), StatusOk);
+    }
+  });
+}
+
+TEST_P(FirTest, LongBlocksInPlace) {
+  ForEachFilter([&](auto filter) {
+    using F = decltype(filter);
+    for (int n : {5, 70}) {
+      const auto taps = RandomTaps<F>(n, 7u);
+      const std::vector<typename F::Data> none(static_cast<size_t>(n));
+      FIRFloatState* state = nullptr;
+      ASSERT_EQ(F::InitAlloc(&state, taps.data(), n, nullptr), StatusOk);
+      CheckStream<F>(state, taps, none, {-4096, -5000, -4737, -9000, 9}, 8u);
+      EXPECT_EQ(F::Free(state), StatusOk);
+    }
+  });
+}
+
+// A history that does not fit into the block buffer, with what lies behind that in use afterwards. Most taps
+// are zeros, for the sake of the exact sums.
+TEST_P(FirTest, LongFilters) {
+  ForEachFilter([&](auto filter) {
+    using F = decltype(filter);
+    constexpr int kTaps = 3100;
+    const auto few = RandomTaps<F>(kTaps, 14u);
+    std::vector<typename F::Tap> taps(kTaps);
+    for (size_t k : {0, 1, 2, 15, 700, 1023, 1024, 1951, 2976, kTaps - 2, kTaps - 1}) taps[k] = few[k];
+    const auto history = RandomNumbers<typename F::Data>(kTaps, DataScale<typename F::Data>(), 15u);
+    FIRFloatState* state = nullptr;
+    ASSERT_EQ(F::InitAlloc(&state, taps.data(), kTaps, history.data()), StatusOk);
+    CheckStream<F>(state, taps, history, {-1100, 200, 0, 600, -200}, 16u);
+    EXPECT_EQ(F::Free(state), StatusOk);
+  });
+}
+
+TEST_P(FirTest, TapsAndDelayLineCanBeReplaced) {
+  ForEachFilter([&](auto filter) {
+    using F = decltype(filter);
+    using Data = typename F::Data;
+    for (int n : {1, 9, 80}) {
+      FIRFloatState* state = nullptr;
+      ASSERT_EQ(F::InitAlloc(&state, RandomTaps<F>(n, 9u).data(), n, nullptr), StatusOk);
+      Data y{};
+      for (int i = 0; i < 2 * n / 3; ++i) F::One(Data{}, &y, state, 0);
+      const auto taps = RandomTaps<F>(n, 10u);
+      const auto history = RandomNumbers<Data>(static_cast<size_t>(n), DataScale<Data>(), 11u);
+      ASSERT_EQ(F::SetTaps(taps.data(), state), StatusOk);
+      ASSERT_EQ(F::SetDelay(state, history.data()), StatusOk);
+      CheckStream<F>(state, taps, history, {0, 700, 0, 11}, 12u);
+      ASSERT_EQ(F::SetDelay(state, nullptr), StatusOk);
+      CheckStream<F>(state, taps, std::vector<Data>(static_cast<size_t>(n)), {600, 0}, 13u);
+      F::Free(state);
+    }
+  });
+}
+
+// What stands in the delay line behind the samples must not reach a sum.
+TEST_P(FirTest, OldInfinitiesAreForgotten) {
+  for (int n = 1; n <= 20; ++n) {
+    FIRFloatState* state = nullptr;
+    const std::vector<Orb32f> taps(static_cast<size_t>(n), 0.5f);
+    ASSERT_EQ(legacy90orbsFIRInitAlloc_32f(&state, taps.data(), n, nullptr), StatusOk);
+    Orb32f y = 0;
+    for (int i = 0; i < 3 * n; ++i) legacy90orbsFIROne_32f(INFINITY, &y, state);
+    for (int i = 0; i < n; ++i) legacy90orbsFIROne_32f(1, &y, state);
+    EXPECT_EQ(y, static_cast<Orb32f>(n) / 2);
+    legacy90orbsFIRFree_32f(state);
+  }
+  // By transform, where they spread over all of it: the next call fills it in part only.
+  FIRFloatState* state = nullptr;
+  const std::vector<Orb32f> taps(300, 0.5f);
+  ASSERT_EQ(legacy90orbsFIRInitAlloc_32f(&state, taps.data(), 300, nullptr), StatusOk);
+  std::vector<Orb32f> x(600, 1);
+  std::vector<Orb32f> y(600);
+  x[0] = INFINITY;
+  legacy90orbsFIR_32f(x.data(), y.data(), 600, state);
+  x[0] = 1;
+  legacy90orbsFIR_32f(x.data(), y.data(), 600, state);
+  for (Orb32f result : y) ASSERT_NEAR(result, 150, 1e-3);
+  legacy90orbsFIRFree_32f(state);
+}
+
+template <class F>
+std::vector<double> Scaled(const std::vector<double>& taps, double sample, Orb32s factor) {
+  using Tap = typename F::Tap;
+  std::vector<Tap> given;
+  for (double tap : taps) given.push_back(FromExact<Tap>({static_cast<long double>(tap), 0}));
+  FIRFloatState* state = nullptr;
+  F::InitAlloc(&state, given.data(), static_cast<Orb32s>(given.size()), nullptr);
+  const auto x = FromExact<typename F::Data>({static_cast<long double>(sample), 0});
+  typename F::Data y[3] = {};
+  F::One(x, &y[0], state, factor);
+  F::SetDelay(state, nullptr);
+  F::Block(&x, &y[1], 1, state, factor);
+  y[2] = x;
+  F::SetDelay(state, nullptr);
+  F::InPlace(&y[2], 1, state, factor);
+  F::Free(state);
+  return {static_cast<double>(ToExact(y[0]).real()), static_cast<double>(ToExact(y[1]).real()),
+          static_cast<double>(ToExact(y[2]).real())};
+}
+
+TEST_P(FirTest, TiesSaturationAndScaleFactors) {
+  using Values = std::vector<double>;
+  const bool px = GetParam() == Variant::px;
+  const bool avx = GetParam() == Variant::g9 || GetParam() == Variant::h9;
+  const double one = px ? 3 : 2;
+  EXPECT_EQ(Scaled<Filter32f_16s>({0.5}, 5, 0), (Values{one, 2, 2}));
+  EXPECT_EQ(Scaled<Filter32fc_16sc>({0.5}, 5, 0), (Values{one, 2, 2}));
+  EXPECT_EQ(Scaled<Filter64f_16s>({0.5}, 5, 0), (Values{one, one, one}));
+  EXPECT_EQ(Scaled<Filter64f_32s>({0.5}, 5, 0), (Values{one, 2, 2}));
+  EXPECT_EQ(Scaled<Filter32s>({1}, 5, 1), (Values{one, 2, 2}));
+  // Short complex filters of two kinds send ties away from zero in the AVX variants as well.
+  const double shortOne = px || avx ? -3 : -2;
+  EXPECT_EQ(Scaled<Filter64fc_16sc>({0.5, 0, 0, 0}, -5, 0),
+            (Values{shortOne, px ? -3. : -2., px ? -3. : -2.}));
+  EXPECT_EQ(Scaled<Filter64fc_32sc>({0.5, 0, 0, 0}, -5, 0), (Values{shortOne, -2, -2}));
+  EXPECT_EQ(Scaled<Filter64fc_16sc>({0.5, 0, 0, 0, 0}, -5, 0)[0], -one);
+
+  EXPECT_EQ(Scaled<Filter32f_16s>({20000}, 5, 0), (Values{32767, 32767, 32767}));
+  EXPECT_EQ(Scaled<Filter64f_16s>({-20000}, 5, 0), (Values{-32768, -32768, -32768}));
+  EXPECT_EQ(Scaled<Filter64f_32s>({-1e9}, 5, 0), (Values{-2147483648., -2147483648., -2147483648.}));
+  EXPECT_EQ(Scaled<Filter32f_16s>({1}, 5, -3), (Values{40, 40, 40}));
+  EXPECT_EQ(Scaled<Filter64f_16s>({64}, 5, 5), (Values{10, 10, 10}));
+  // The exponent field takes the magnitude modulo 128, repeated halving does not.
+  EXPECT_EQ(Scaled<Filter32f_16s>({1}, 5, 128), (Values{5, 0, 0}));
+  EXPECT_EQ(Scaled<Filter64f_16s>({1}, 5, 128), (Values{5, 5, 5}));
+  EXPECT_EQ(Scaled<Filter64f_32s>({1}, 5, -129), (Values{10, 2147483647., 2147483647.}));
+
+  // Results beyond binary32: a block limits them, a single one becomes infinite.
+  EXPECT_EQ(Scaled<Filter64f_32f>({1e39}, 1, 0),
+            (Values{HUGE_VAL, std::numeric_limits<Orb32f>::max(), std::numeric_limits<Orb32f>::max()}));
+}
+
+}  // namespace
+}  // namespace orbs::test

@@ -1,0 +1,354 @@
+// The life cycle of plans: sizes, statuses and their order, dead plans, failing allocations.
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+#include "tests/transform/engine/fixture.h"
+#include "core/memory.h"
+#include "tests/support/failing_allocator.h"
+
+namespace orbs::test {
+namespace {
+
+class FftPlanTest : public FftTest {};
+ORBS_INSTANTIATE_VARIANTS(FftPlanTest);
+
+// ---- Sizes, summed up as a user's manual would: 32f numbers first, 64f second ----
+
+struct Limits {
+  int complexOrder[2];
+  int realOrder[2];
+  int complexCodelet;
+  int realCodelet[2];
+  int halfCodelet;
+  int onePass[2];
+  int twoLevels[2];
+};
+
+Limits LimitsOf(Variant variant) {
+  Limits limits = {{28, 27}, {29, 28}, 5, {4, 5}, 6, {17, 16}, {19, 18}};
+  switch (variant) {
+    case Variant::px:
+      return {{27, 26}, {28, 27}, 5, {5, 5}, 6, {10, 10}, {19, 18}};
+    case Variant::w7:
+      limits.onePass[0] = 15;
+      limits.onePass[1] = 13;
+      return limits;
+    case Variant::v8:
+      return limits;
+    case Variant::s8:
+      return {{28, 26}, {29, 27}, 5, {4, 5}, 6, {15, 12}, {18, 18}};
+    case Variant::p8:
+      limits.twoLevels[0] = 20;
+      limits.twoLevels[1] = 19;
+      return limits;
+    case Variant::g9:
+    case Variant::h9:
+      return {{28, 27}, {29, 28}, 6, {4, 4}, 7, {18, 17}, {18, 18}};
+  }
+  return limits;
+}
+
+constexpr Orb64s Down64(Orb64s x) { return x & ~Orb64s{63}; }
+
+struct Sizes {
+  Orb64s plan;
+  Orb64s init;
+  Orb64s work;
+  friend bool operator==(const Sizes& a, const Sizes& b) {
+    return a.plan == b.plan && a.init == b.init && a.work == b.work;
+  }
+  friend std::ostream& operator<<(std::ostream& out, const Sizes& s) {
+    return out << s.plan << " " << s.init << " " << s.work;
+  }
+};
+
+class SizeRules {
+ public:
+  SizeRules(Variant variant, FftKind kind)
+      : variant_(variant), kind_(kind), wide_(Is64f(kind)), limits_(LimitsOf(variant)) {}
+
+  int MaxOrder() const { return IsReal(kind_) ? limits_.realOrder[wide_] : limits_.complexOrder[wide_]; }
+  // Above it a vector variant lays out its plans as it likes.
+  int LastRuled() const {
+    if (variant_ == Variant::px) return MaxOrder();
+    return limits_.onePass[wide_] + (IsReal(kind_) ? 1 : 0);
+  }
+
+  Sizes Of(int order) const {
+    const Sizes record = {wide_ ? 160 : 152, 0, 0};
+    if (!IsReal(kind_)) {
+      if (order <= limits_.complexCodelet) return record;
+      return WithComplex({192, order > 10 ? Q(order) + 64 : 0, 0}, order);
+    }
+    if (order <= limits_.realCodelet[wide_]) return record;
+    const Sizes real = {RealTables(order) + 192, order > 10 ? Q(order) + 64 : 0, 0};
+    return order <= limits_.halfCodelet ? real : WithComplex(real, order - 1);
+  }
+
+ private:
+  Sizes WithComplex(Sizes sizes, int order) const {
+    const Orb64s n = Orb64s{1} << order;
+    if (variant_ != Variant::px) {
+      const bool none = variant_ == Variant::s8 && kind_ == kC_64fc;
+      const Orb64s work = none ? 0 : Down64((wide_ ? 16 : 8) * n + 63) + 64;
+      return {sizes.plan + K(order) + B(order), sizes.init, work};
+    }
+    if (order <= 10) return {sizes.plan + K(order) + B(order), sizes.init, 0};
+    const Orb64s w = W(order);
+    return {sizes.plan + T(order) + B(order), sizes.init + I(order), w > 0 ? w + 64 : 0};
+  }
+
+  int Split(int order) const {
+    static const char* const kSplit32 = "00567888aaaa88aaa";  // orders 11 to 27, hexadecimal
+    static const char* const kSplit64 = "04567789998899990";
+    const char digit = (wide_ ? kSplit64 : kSplit32)[order - 11];
+    return digit <= '9' ? digit - '0' : digit - 'a' + 10;
+  }
+
+  static Orb64s B(int n) { return Down64((Orb64s{1} << n) + 67); }
+  Orb64s K(int n) const { return wide_ ? Down64((Orb64s{16} << n) + 79) : Down64((Orb64s{8} << n) + 71); }
+  Orb64s L(int n) const { return Down64((Orb64s{wide_ ? 4 : 2} << n) + 63); }
+  Orb64s Q(int n) const { return wide_ ? Down64((Orb64s{2} << n) + 71) : Down64((Orb64s{1} << n) + 67); }
+  Orb64s T(int n) const {
+    if (n <= 10) return K(n);
+    const int t = Split(n);
+    return t == 0 ? L(n) + K(10) : T(n - t) + K(t) + (Orb64s{wide_ ? 16 : 8} << n);
+  }
+  Orb64s I(int n) const {
+    const int t = n <= 10 ? 0 : Split(n);
+    return t == 0 ? 0 : I(n - t) + B(t) + (Orb64s{wide_ ? 64 : 32} << t);
+  }
+  Orb64s W(int n) const {
+    const int t = n <= 10 ? 0 : Split(n);
+    return t == 0 ? 0 : std::max(Orb64s{wide_ ? 64 : 32} << t, W(n - t));
+  }
+  Orb64s RealTables(int order) const {
+    const Orb64s n = Orb64s{1} << order;
+    const bool two = order >= limits_.twoLevels[wide_];
+    return (two ? n / (wide_ ? 64 : 256) + 16510 : (wide_ ? 8 : 4) * n + 126) & ~Orb64s{127};
+  }
+
+  Variant variant_;
+  FftKind kind_;
+  bool wide_;
+  Limits limits_;
+};
+
+TEST_P(FftPlanTest, SizesAreWhatTheyAlwaysWere) {
+  for (int k = 0; k < kFftKinds; ++k) {
+    const auto kind = static_cast<FftKind>(k);
+    const SizeRules rules(GetParam(), kind);
+    for (int order = 0; order <= rules.MaxOrder(); ++order) {
+      for (const Orb32s flag : {FftScaleFwdByN, FftScaleNone}) {
+        Orb32s plan = -1;
+        Orb32s init = -1;
+        Orb32s work = -1;
+        ASSERT_EQ(fft.plan[k].getSize(order, flag, order % 3, &plan, &init, &work), StatusOk);
+        const Sizes sizes = {plan, init, work};
+        if (order <= rules.LastRuled()) {
+          EXPECT_EQ(sizes, rules.Of(order)) << kFftKindNames[k] << " " << order;
+        }
+        EXPECT_GT(plan, 0);
+        EXPECT_GE(init, 0);
+        EXPECT_GE(work, 0);
+        EXPECT_LT(std::max({plan, init, work}), INT32_MAX) << kFftKindNames[k] << " " << order;
+      }
+    }
+  }
+}
+
+// ---- Statuses ----
+
+TEST_P(FftPlanTest, SizeQueryChecksInItsOwnOrder) {
+  for (int k = 0; k < kFftKinds; ++k) {
+    SCOPED_TRACE(kFftKindNames[k]);
+    const int max = SizeRules(GetParam(), static_cast<FftKind>(k)).MaxOrder();
+    const auto getSize = fft.plan[k].getSize;
+    Orb32s sizes[3] = {-7, -7, -7};
+    for (const int order : {-1, 31, INT32_MIN, INT32_MAX}) {
+      EXPECT_EQ(getSize(order, 3, 0, nullptr, nullptr, nullptr), StatusFftOrder);
+    }
+    for (int null = 0; null < 3; ++null) {
+      EXPECT_EQ(getSize(30, 3, 0, null == 0 ? nullptr : &sizes[0], null == 1 ? nullptr : &sizes[1],
+                        null == 2 ? nullptr : &sizes[2]),
+                StatusNullPointer);
+    }
+    for (const Orb32s flag : {0, 3, 5, 9, 16, -1}) {
+      EXPECT_EQ(getSize(30, flag, 0, &sizes[0], &sizes[1], &sizes[2]), StatusFftFlag);
+    }
+    EXPECT_EQ(getSize(max + 1, FftScaleNone, 0, &sizes[0], &sizes[1], &sizes[2]), StatusFftOrder);
+    for (const Orb32s size : sizes) EXPECT_EQ(size, -7);
+    EXPECT_EQ(getSize(max, FftScaleNone, 0, &sizes[0], &sizes[1], &sizes[2]), StatusOk);
+  }
+}
+
+TEST_P(FftPlanTest, InitChecksAndLeavesADeadPlan) {
+  for (int k = 0; k < kFftKinds; ++k) {
+    SCOPED_TRACE(kFftKindNames[k]);
+    const int max = SizeRules(GetParam(), static_cast<FftKind>(k)).MaxOrder();
+    const FftPlanAccess& access = fft.plan[k];
+    Bytes memory(1 << 18);
+    Bytes init(1 << 14);
+    int marker = 0;
+    void* plan = &marker;
+    EXPECT_EQ(access.init(nullptr, -1, 3, 0, nullptr, nullptr), StatusNullPointer);
+    for (const int order : {-1, max + 1, 31}) {
+      EXPECT_EQ(access.init(&plan, order, 3, 0, nullptr, nullptr), StatusFftOrder);
+      EXPECT_EQ(access.initAlloc(&plan, order, FftScaleNone, 0), StatusFftOrder);
+    }
+    EXPECT_EQ(access.init(&plan, 4, 3, 0, nullptr, nullptr), StatusNullPointer);
+    EXPECT_TRUE(memory.Untouched());
+
+    void* aligned = AlignUp(memory.data(), 64);
+    const auto identity = [&] { return *static_cast<const Orb32s*>(aligned); };
+    for (const Orb32s flag : {0, 3, 16, -8}) {
+      for (const int order : {0, 8, 11}) {
+        EXPECT_EQ(access.init(&plan, order, flag, 0, memory.data(), init.data()), StatusFftFlag);
+        EXPECT_EQ(identity(), 0);
+      }
+      EXPECT_EQ(access.initAlloc(&plan, 8, flag, 0), StatusFftFlag);
+    }
+    EXPECT_EQ(access.init(&plan, 11, FftScaleNone, 0, memory.data(), nullptr), StatusNullPointer);
+    EXPECT_EQ(identity(), 0);
+    EXPECT_EQ(plan, &marker);  // not written on any failure
+    EXPECT_EQ(access.initAlloc(nullptr, 4, FftScaleNone, 0), StatusNullPointer);
+    EXPECT_EQ(access.initAlloc(nullptr, 31, FftScaleNone, 0), StatusFftOrder);
+
+    // No table, or constant sines only: the init buffer is not looked at.
+    for (const int order : {0, 5, 10}) {
+      EXPECT_EQ(access.init(&plan, order, FftScaleNone, 0, memory.data(), nullptr), StatusOk);
+      EXPECT_EQ(plan, aligned);
+      EXPECT_EQ(identity(), 4 + k);
+    }
+    Orb32s size = -1;
+    EXPECT_EQ(access.getBufSize(nullptr, &size), StatusNullPointer);
+    EXPECT_EQ(access.getBufSize(plan, nullptr), StatusNullPointer);
+    EXPECT_EQ(access.free(nullptr), StatusNullPointer);
+    EXPECT_EQ(access.free(plan), StatusOk);
+    EXPECT_EQ(identity(), 0);
+    EXPECT_EQ(access.free(plan), StatusContextMismatch);
+    EXPECT_EQ(access.getBufSize(plan, nullptr), StatusContextMismatch);
+  }
+}
+
+// A transform of any kind with up to four data pointers.
+using AnyTransform = std::function<OrbStatus(void* const data[4], const void* plan)>;
+
+std::vector<AnyTransform> TransformsOf(const FftAccess& fft, FftKind kind) {
+  const int width = Is64f(kind) ? 1 : 0;
+  std::vector<AnyTransform> transforms;
+  const auto add = [&](OneArray transform) {
+    if (transform == nullptr) return;
+    transforms.push_back(
+        [=](void* const d[4], const void* plan) { return transform(d[0], d[1], plan, nullptr); });
+  };
+  for (const int i : {0, 1, 2}) {
+    if (IsReal(kind)) {
+      add(fft.toSpectrum[i][width]);
+      add(fft.fromSpectrum[i][width]);
+    } else if (i < 2 && !IsSplit(kind)) {
+      add(fft.pairs[i][width]);
+    } else if (i < 2) {
+      const TwoArrays transform = fft.split[i][width];
+      transforms.push_back([=](void* const d[4], const void* plan) {
+        return transform(d[0], d[1], d[2], d[3], plan, nullptr);
+      });
+    }
+  }
+  return transforms;
+}
+
+TEST_P(FftPlanTest, TransformsCheckPlanIdentityAndData) {
+  Bytes data(4096);
+  const auto expectAll = [&](FftKind kind, const void* plan, int null, OrbStatus status) {
+    for (const AnyTransform& transform : TransformsOf(fft, kind)) {
+      void* pointers[4] = {data.data(), data.data(), data.data(), data.data()};
+      if (null >= 0) pointers[null] = nullptr;
+      EXPECT_EQ(transform(pointers, plan), status) << kFftKindNames[kind] << " " << null;
+    }
+  };
+  for (int k = 0; k < kFftKinds; ++k) {
+    const auto kind = static_cast<FftKind>(k);
+    for (const int order : {3, 7}) {
+      void* plan = nullptr;
+      ASSERT_EQ(fft.plan[k].initAlloc(&plan, order, FftScaleNone, HintAccurate), StatusOk);
+      for (int other = 0; other < kFftKinds; ++other) {
+        const auto otherKind = static_cast<FftKind>(other);
+        if (other == k) continue;
+        expectAll(otherKind, plan, 0, StatusContextMismatch);  // before the data are looked at
+        EXPECT_EQ(fft.plan[other].free(plan), StatusContextMismatch);
+      }
+      expectAll(kind, nullptr, 0, StatusNullPointer);
+      for (int null = 0; null < (IsSplit(kind) ? 4 : 2); ++null)
+        expectAll(kind, plan, null, StatusNullPointer);
+      EXPECT_TRUE(data.Untouched());
+      EXPECT_EQ(fft.plan[k].free(plan), StatusOk);
+    }
+    // A freed plan in the caller's memory.
+    Bytes memory(4096);
+    void* plan = nullptr;
+    ASSERT_EQ(fft.plan[k].init(&plan, 4, FftScaleNone, HintNone, memory.data(), nullptr), StatusOk);
+    EXPECT_EQ(fft.plan[k].free(plan), StatusOk);
+    expectAll(kind, plan, -1, StatusContextMismatch);
+    EXPECT_TRUE(data.Untouched());
+  }
+}
+
+// ---- Allocation ----
+
+// The heap behind the library, which is linked into this test.
+void SetHeap(void* (*allocate)(size_t), void (*release)(void*)) { SetAllocator({allocate, release}); }
+
+TEST_P(FftPlanTest, InitAllocSurvivesEveryFailingAllocation) {
+  for (int k = 0; k < kFftKinds; ++k) {
+    for (const int order : {2, 9, 12}) {
+      for (int n = 0;; ++n) {
+        int marker = 0;
+        void* plan = &marker;
+        FailingAllocator heap(SetHeap, n);
+        const OrbStatus status = fft.plan[k].initAlloc(&plan, order, FftScaleInvByN, HintNone);
+        if (!heap.Failed()) {
+          EXPECT_EQ(status, StatusOk);
+          EXPECT_EQ(heap.Count(),
+                    order > 10 ? 2 : 1);  // the plan, and for the time of the call the init buffer
+          EXPECT_EQ(heap.Alive(), 1);
+          EXPECT_EQ(fft.plan[k].free(plan), StatusOk);
+          EXPECT_EQ(heap.Alive(), 0);
+          break;
+        }
+        EXPECT_EQ(status, StatusMemAlloc) << kFftKindNames[k] << " " << order;
+        EXPECT_EQ(heap.Alive(), 0);
+        EXPECT_EQ(plan, &marker);
+      }
+    }
+  }
+}
+
+TEST_P(FftPlanTest, TransformsAllocateOnlyTheirWorkBuffer) {
+  for (int k = 0; k < kFftKinds; ++k) {
+    const auto kind = static_cast<FftKind>(k);
+    for (const int order : {5, 9, 14}) {
+      SCOPED_TRACE(std::string(kFftKindNames[k]) + ", order " + std::to_string(order));
+      const TestPlan plan(fft, kind, order);
+      const bool allocates = plan.WorkSize() > 0;
+      for (const AnyTransform& transform : TransformsOf(fft, kind)) {
+        Bytes data((size_t{1} << order) * 16 + 16);
+        void* const pointers[4] = {data.data(), data.data(), data.data(), data.data()};
+        FailingAllocator heap(SetHeap, 0);
+        if (allocates) {
+          EXPECT_EQ(transform(pointers, plan.Get()), StatusMemAlloc);
+          EXPECT_TRUE(data.Untouched());
+        }
+        std::memset(data.data(), 0, data.size());
+        const int before = heap.Count();
+        EXPECT_EQ(transform(pointers, plan.Get()), StatusOk);
+        EXPECT_EQ(heap.Count() - before, allocates ? 1 : 0);
+        EXPECT_EQ(heap.Alive(), 0);
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace orbs::test
