@@ -8,9 +8,9 @@
 #include "bench/compare.h"
 #include "bench/measure.h"
 #include "bench/report.h"
-#include "bench/variants.h"
 #include "boundary/pin.h"
 #include "orbs90lgc.h"
+#include "tests/support/runnable_variants.h"
 
 namespace {
 
@@ -86,9 +86,9 @@ int Run(const char* program, const Options& options) {
 
   const std::string selected = legacy90orbsGetLibVersion()->targetCpu;
   const std::string variant = options.variant.empty() ? selected : options.variant;
-  const int index = VariantIndex(variant);
+  const int index = orbs::test::VariantIndex(variant);
   if (index < 0) return Fail("no variant '" + variant + "'");
-  if (!ProcessorRuns(index)) return Fail("this processor cannot run " + variant);
+  if (!orbs::test::CanRun(static_cast<orbs::Variant>(index))) return Fail("this processor cannot run " + variant);
   if (!DeclareFamilies(index)) return Fail(variant + " is not in this build");
   orbsPinVariant(index);
 

@@ -41,7 +41,7 @@ orbs_add_plain(orbs_dispatch src/boundary/dispatch.cpp)
 target_compile_definitions(orbs_dispatch PRIVATE ${entries})
 orbs_add_plain(orbs_pin src/boundary/pin.cpp)
 # The assembler file depends on the list through the preprocessor, which CMake does not scan here.
-set_source_files_properties(src/boundary/stubs.S PROPERTIES OBJECT_DEPENDS ${PROJECT_SOURCE_DIR}/src/boundary/exports.def)
+set_source_files_properties(src/boundary/stubs.S PROPERTIES OBJECT_DEPENDS "${ORBS_EXPORT_LISTS}")
 
 # orbs_add_library(NAME SOVERSION DEFINITIONS OBJECTS...): a shared library that exports the list and nothing else.
 function(orbs_add_library name definitions)
@@ -50,7 +50,7 @@ function(orbs_add_library name definitions)
     OUTPUT ${map}
     COMMAND ${CMAKE_C_COMPILER} -E -P -x c ${definitions} -I ${PROJECT_SOURCE_DIR}/src
             ${PROJECT_SOURCE_DIR}/src/boundary/exports.map.in -o ${map}
-    DEPENDS ${PROJECT_SOURCE_DIR}/src/boundary/exports.map.in ${PROJECT_SOURCE_DIR}/src/boundary/exports.def
+    DEPENDS ${PROJECT_SOURCE_DIR}/src/boundary/exports.map.in ${ORBS_EXPORT_LISTS}
     VERBATIM)
   add_custom_target(${name}_map DEPENDS ${map})
   add_library(${name} SHARED ${ARGN})

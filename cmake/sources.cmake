@@ -12,49 +12,60 @@ set(ORBS_VARIANT_SOURCES
     src/toolkit/flip.cpp
     src/toolkit/integer.cpp
     src/toolkit/real.cpp
-    src/fir/float/block.cpp
-    src/fir/direct/float.cpp
-    src/fir/direct/integer.cpp
-    src/fir/float/access.cpp
-    src/fir/float/init.cpp
-    src/fir/integer/filter.cpp
-    src/fir/integer/state.cpp
-    src/fir/adaptive/lms.cpp
-    src/fir/float/one.cpp
-    src/gen/window/blackman.cpp
-    src/gen/companding/companding.cpp
-    src/gen/pattern/jaehne.cpp
-    src/gen/window/kaiser.cpp
-    src/gen/pattern/ramp.cpp
-    src/gen/random/random_gauss.cpp
-    src/gen/random/random_uniform.cpp
-    src/gen/pattern/slope.cpp
-    src/gen/tone/tone.cpp
-    src/gen/tone/tone_q15.cpp
-    src/gen/triangle/triangle.cpp
-    src/gen/triangle/triangle_q15.cpp
-    src/iir/access.cpp
-    src/iir/direct.cpp
-    src/iir/filter.cpp
-    src/iir/init.cpp
-    src/iir/run.cpp
-    src/modem/fm.cpp
-    src/modem/goertzel.cpp
-    src/modem/viterbi.cpp
-    src/transform/engine/px/codelets.cpp
+    src/transform/engine/codelets_32f.cpp
+    src/transform/engine/codelets_64f.cpp
     src/transform/engine/complex.cpp
     src/transform/engine/init.cpp
-    src/transform/integer/complex.cpp
-    src/transform/integer/fixed.cpp
-    src/transform/integer/init.cpp
-    src/transform/integer/real.cpp
-    src/transform/integer/tables.cpp
     src/transform/engine/layout.cpp
     src/transform/engine/real.cpp
-    src/transform/engine/sine.cpp
-    src/transform/engine/vector/transform.cpp
-    src/transform/spectrum/spectrum.cpp)
+    src/transform/engine/tables/sine.cpp
+    src/transform/engine/vector/tables.cpp
+    src/transform/engine/vector/transform_32f.cpp
+    src/transform/engine/vector/transform_64f.cpp
+    src/transform/integer/complex_exports_16.cpp
+    src/transform/integer/complex_exports_32.cpp
+    src/transform/integer/fixed.cpp
+    src/transform/integer/init_exports.cpp
+    src/transform/integer/real_exports_16.cpp
+    src/transform/integer/real_exports_32.cpp
+    src/transform/integer/tables.cpp
+    src/transform/spectrum/spectrum_exports.cpp
+    src/fir/adaptive/lms_exports.cpp
+    src/fir/direct/float_taps_exports_float_data.cpp
+    src/fir/direct/float_taps_exports_integer_data.cpp
+    src/fir/direct/integer_taps_exports.cpp
+    src/fir/float/access_exports.cpp
+    src/fir/float/filter_exports.cpp
+    src/fir/float/init_exports.cpp
+    src/fir/float/one_exports.cpp
+    src/fir/integer/access_exports.cpp
+    src/fir/integer/filter_exports.cpp
+    src/fir/integer/init_exports.cpp
+    src/gen/companding/companding_exports.cpp
+    src/gen/pattern/jaehne_exports.cpp
+    src/gen/pattern/ramp_exports.cpp
+    src/gen/pattern/slope_exports.cpp
+    src/gen/random/random_gauss_exports.cpp
+    src/gen/random/random_uniform_exports.cpp
+    src/gen/tone/tone_exports.cpp
+    src/gen/tone/tone_q15_exports.cpp
+    src/gen/triangle/triangle_exports.cpp
+    src/gen/triangle/triangle_q15_exports.cpp
+    src/gen/window/blackman_exports.cpp
+    src/gen/window/kaiser_exports.cpp
+    src/iir/access_exports.cpp
+    src/iir/direct_exports.cpp
+    src/iir/filter_exports.cpp
+    src/iir/init_exports.cpp
+    src/iir/run.cpp
+    src/modem/fm_exports.cpp
+    src/modem/goertzel_exports.cpp
+    src/modem/viterbi_exports.cpp)
 
 # Compiled once: what lies below the variants, and what stands in front of them.
 set(ORBS_COMMON_SOURCES src/boundary/cache.cpp src/boundary/cpuid.cpp src/core/memory.cpp src/boundary/processor.cpp)
 set(ORBS_BOUNDARY_SOURCES src/boundary/init.cpp src/boundary/stubs.S)
+
+# The list of exports, for what reads it without the compiler's own record of what a file includes.
+file(GLOB ORBS_EXPORT_LISTS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/boundary/exports/*.def)
+list(APPEND ORBS_EXPORT_LISTS ${PROJECT_SOURCE_DIR}/src/boundary/exports.def)

@@ -1,7 +1,8 @@
 // What dispatch costs: a call of one sample through the shared library's stub, beside the same call made
 // directly to the variant's function. Compiled once per variant.
 #include "bench/compare.h"
-#include "boundary/exports.h"
+#define ORBS_SLICE "boundary/exports/gen.def"
+#include "boundary/declare_exports.h"
 #include "orbs90lgc.h"
 
 namespace orbs::ORBS_VARIANT {

@@ -11,7 +11,7 @@
 
 #include <fftw3.h>
 
-#include "bench/variants.h"
+#include "tests/support/runnable_variants.h"
 #include "tests/transform/engine/reference.h"
 
 namespace orbs::bench {
@@ -193,7 +193,7 @@ void MeasureAll() {
 }  // namespace
 
 VariantTransforms::VariantTransforms(const char* name, RunOnce function) : variant(name), run(function) {
-  if (ProcessorRuns(VariantIndex(name))) Variants().push_back(*this);
+  if (test::CanRun(static_cast<Variant>(test::VariantIndex(name)))) Variants().push_back(*this);
 }
 
 }  // namespace orbs::bench

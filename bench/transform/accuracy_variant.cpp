@@ -8,32 +8,33 @@ namespace {
 
 using bench::Transform;
 
-template <class Element, class Plan>
-using Direction = OrbStatus (*)(const Element* src, Element* dst, const Plan* plan, void* work);
+using transform::Fft;
+using transform::FftForm;
 
-template <class Element, class Plan>
-void RunPlan(OrbStatus (*make)(Plan**, Orb32s, Orb32s, OrbAlgHint), OrbStatus (*release)(Plan*),
-             Direction<Element, Plan> transform, int order, const void* src, void* dst) {
-  Plan* plan = nullptr;
-  if (make(&plan, order, FftScaleNone, HintNone) != StatusOk) return;
-  transform(static_cast<const Element*>(src), static_cast<Element*>(dst), plan, nullptr);
-  release(plan);
+template <class Kind, class Element>
+void RunPlan(bool forward, int order, const void* src, void* dst) {
+  typename Kind::Plan* plan = nullptr;
+  if (Kind::InitAlloc(&plan, order, FftScaleNone, HintNone) != StatusOk) return;
+  const auto* from = static_cast<const Element*>(src);
+  auto* to = static_cast<Element*>(dst);
+  if (forward) {
+    Kind::Forward(from, to, plan, nullptr);
+  } else {
+    Kind::Inverse(from, to, plan, nullptr);
+  }
+  Kind::Free(plan);
 }
 
 void Run(Transform transform, bool forward, int order, const void* src, void* dst) {
   switch (transform) {
     case Transform::complex32:
-      return RunPlan(FFTInitAlloc_C_32fc, FFTFree_C_32fc, forward ? FFTFwd_CToC_32fc : FFTInv_CToC_32fc,
-                     order, src, dst);
+      return RunPlan<Fft<Orb32f, FftForm::interleaved>, Orb32fc>(forward, order, src, dst);
     case Transform::complex64:
-      return RunPlan(FFTInitAlloc_C_64fc, FFTFree_C_64fc, forward ? FFTFwd_CToC_64fc : FFTInv_CToC_64fc,
-                     order, src, dst);
+      return RunPlan<Fft<Orb64f, FftForm::interleaved>, Orb64fc>(forward, order, src, dst);
     case Transform::real32:
-      return RunPlan(FFTInitAlloc_R_32f, FFTFree_R_32f, forward ? FFTFwd_RToPerm_32f : FFTInv_PermToR_32f,
-                     order, src, dst);
+      return RunPlan<Fft<Orb32f, FftForm::real>, Orb32f>(forward, order, src, dst);
     case Transform::real64:
-      return RunPlan(FFTInitAlloc_R_64f, FFTFree_R_64f, forward ? FFTFwd_RToPerm_64f : FFTInv_PermToR_64f,
-                     order, src, dst);
+      return RunPlan<Fft<Orb64f, FftForm::real>, Orb64f>(forward, order, src, dst);
   }
 }
 

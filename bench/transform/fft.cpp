@@ -12,39 +12,49 @@
 namespace orbs::bench {
 namespace {
 
-namespace inside = orbs::ORBS_VARIANT;
+namespace inside = orbs::ORBS_VARIANT::transform;
 
 constexpr int kFirstOrder = 4;
 constexpr int kLastOrder = 20;
 
-#define ORBS_BENCH_TRANSFORM(name, TypeT, suffix, forward, real)                                           \
-  struct name {                                                                                            \
-    using T = TypeT;                                                                                       \
-    using Plan = inside::FFTSpec_##suffix;                                                                 \
-    static constexpr bool kReal = real;                                                                    \
-    static constexpr const char* kName = #forward;                                                         \
-    static constexpr const char* kInit = "FFTInitAlloc_" #suffix;                                          \
-    static Plan* Make(int order) {                                                                         \
-      Plan* plan = nullptr;                                                                                \
-      inside::FFTInitAlloc_##suffix(&plan, order, FftScaleInvByN, HintNone);                               \
-      return plan;                                                                                         \
-    }                                                                                                      \
-    static void Free(Plan* plan) { inside::FFTFree_##suffix(plan); }                                       \
-    static Orb32s WorkBytes(const Plan* plan) {                                                            \
-      Orb32s bytes = 0;                                                                                    \
-      inside::FFTGetBufSize_##suffix(plan, &bytes);                                                        \
-      return bytes;                                                                                        \
-    }                                                                                                      \
-    template <class X>                                                                                     \
-    static void Run(const X* src, X* dst, const Plan* plan, void* work) {                                  \
-      using Element = std::conditional_t<real, T, std::conditional_t<sizeof(T) == 4, Orb32fc, Orb64fc>>;   \
-      inside::forward(reinterpret_cast<const Element*>(src), reinterpret_cast<Element*>(dst), plan, work); \
-    }                                                                                                      \
+template <class Real, inside::FftForm form, inside::SpectrumLayout layout = inside::SpectrumLayout::perm>
+struct Engine : inside::Fft<Real, form> {
+  using T = Real;
+  using Base = inside::Fft<Real, form>;
+  using Plan = typename Base::Plan;
+  static constexpr bool kReal = form == inside::FftForm::real;
+
+  static Plan* Make(int order) {
+    Plan* plan = nullptr;
+    Base::InitAlloc(&plan, order, FftScaleInvByN, HintNone);
+    return plan;
+  }
+  static void Release(Plan* plan) { Base::Free(plan); }
+  static Orb32s WorkBytes(const Plan* plan) {
+    Orb32s bytes = 0;
+    Base::GetBufSize(plan, &bytes);
+    return bytes;
+  }
+  static void Run(const T* src, T* dst, const Plan* plan, void* work) {
+    if constexpr (kReal) {
+      Base::template Forward<layout>(src, dst, plan, work);
+    } else {
+      using Point = typename Base::Point;
+      Base::Forward(reinterpret_cast<const Point*>(src), reinterpret_cast<Point*>(dst), plan, work);
+    }
+  }
+};
+#define ORBS_BENCH_TRANSFORM(name, suffix, forward, ...)          \
+  struct name : Engine<__VA_ARGS__> {                             \
+    static constexpr const char* kName = #forward;                \
+    static constexpr const char* kInit = "FFTInitAlloc_" #suffix; \
   };
-ORBS_BENCH_TRANSFORM(Complex32, Orb32f, C_32fc, FFTFwd_CToC_32fc, false)
-ORBS_BENCH_TRANSFORM(Complex64, Orb64f, C_64fc, FFTFwd_CToC_64fc, false)
-ORBS_BENCH_TRANSFORM(Real32, Orb32f, R_32f, FFTFwd_RToCCS_32f, true)
-ORBS_BENCH_TRANSFORM(Real64, Orb64f, R_64f, FFTFwd_RToPack_64f, true)
+ORBS_BENCH_TRANSFORM(Complex32, C_32fc, FFTFwd_CToC_32fc, Orb32f, inside::FftForm::interleaved)
+ORBS_BENCH_TRANSFORM(Complex64, C_64fc, FFTFwd_CToC_64fc, Orb64f, inside::FftForm::interleaved)
+ORBS_BENCH_TRANSFORM(Real32, R_32f, FFTFwd_RToCCS_32f, Orb32f, inside::FftForm::real,
+                     inside::SpectrumLayout::ccs)
+ORBS_BENCH_TRANSFORM(Real64, R_64f, FFTFwd_RToPack_64f, Orb64f, inside::FftForm::real,
+                     inside::SpectrumLayout::pack)
 
 // What both sides have: data, and room for the result.
 template <class Transform>
@@ -64,7 +74,7 @@ struct Arrays {
 
 template <class Transform>
 std::shared_ptr<typename Transform::Plan> MakePlan(int order) {
-  return {Transform::Make(order), Transform::Free};
+  return {Transform::Make(order), Transform::Release};
 }
 
 template <class T>
@@ -116,7 +126,7 @@ void ComparePlan(Comparison& c, int order) {
   arrays.Fill();
   const auto plan = MakePlan<Transform>(order);
   void* const work = c.Array<Orb8u>(Transform::WorkBytes(plan.get()) + 1);
-  c.Ours([=] { Transform::Free(Transform::Make(order)); });
+  c.Ours([=] { Transform::Release(Transform::Make(order)); });
   c.Peer("100 transforms", [=] {
     for (int i = 0; i < 100; ++i) Transform::Run(arrays.src, arrays.dst, plan.get(), work);
   });

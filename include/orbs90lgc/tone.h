@@ -35,8 +35,8 @@ extern "C" {
  * `hint` ::HintFast lets the variants other than `px` run the recurrence of the 32f, 32fc, 16s and 16sc forms
  * in binary32: a sample is then within 2e-5 `magn` of the exact one, however long the block. With any other
  * hint the error is below 1e-12 `magn`, or in the binary64 forms below 4e-19 `len` `magn` where that is more,
- * before the sample is rounded to its type. In `px`, which does not read the hint, the error of the recurrence
- * grows with `len`, from 1e-18 `magn`.
+ * before the sample is rounded to its type. In `px`, which does not read the hint, the error of the
+ * recurrence grows with `len`, from 1e-18 `magn`.
  *
  * Checks, in this order:
  *  - ::StatusNullPointer: `phase` is null;

@@ -7,27 +7,29 @@
 
 // A quick build leaves variants out: the build then defines ORBS_ENTRY_w7, say, as px, and the entries point
 // there.
-namespace orbs::px {
-#include "boundary/exports_declare.inc"
-}
-namespace orbs::ORBS_ENTRY_w7 {
-#include "boundary/exports_declare.inc"
-}
-namespace orbs::ORBS_ENTRY_v8 {
-#include "boundary/exports_declare.inc"
-}
-namespace orbs::ORBS_ENTRY_s8 {
-#include "boundary/exports_declare.inc"
-}
-namespace orbs::ORBS_ENTRY_p8 {
-#include "boundary/exports_declare.inc"
-}
-namespace orbs::ORBS_ENTRY_g9 {
-#include "boundary/exports_declare.inc"
-}
-namespace orbs::ORBS_ENTRY_h9 {
-#include "boundary/exports_declare.inc"
-}
+#define ORBS_EXPORT(family, result, name, arguments) \
+  namespace orbs::px {                               \
+  result legacy90orbs##name arguments;               \
+  }                                                  \
+  namespace orbs::ORBS_ENTRY_w7 {                    \
+  result legacy90orbs##name arguments;               \
+  }                                                  \
+  namespace orbs::ORBS_ENTRY_v8 {                    \
+  result legacy90orbs##name arguments;               \
+  }                                                  \
+  namespace orbs::ORBS_ENTRY_s8 {                    \
+  result legacy90orbs##name arguments;               \
+  }                                                  \
+  namespace orbs::ORBS_ENTRY_p8 {                    \
+  result legacy90orbs##name arguments;               \
+  }                                                  \
+  namespace orbs::ORBS_ENTRY_g9 {                    \
+  result legacy90orbs##name arguments;               \
+  }                                                  \
+  namespace orbs::ORBS_ENTRY_h9 {                    \
+  result legacy90orbs##name arguments;               \
+  }
+#include "boundary/exports.def"
 
 extern "C" {
 

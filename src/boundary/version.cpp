@@ -1,5 +1,6 @@
 // The version record of this variant.
-#include "boundary/exports.h"
+#define ORBS_SLICE "boundary/exports/frame.def"
+#include "boundary/declare_exports.h"
 #if ORBS_VARIANT_INDEX == 4
 #include "boundary/processor.h"
 #endif

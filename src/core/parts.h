@@ -13,11 +13,17 @@ struct PartsOf {
   using Part = T;
   static constexpr int kCount = 1;
 };
+template <class Part>
+struct ComplexWith;
 #define ORBS_COMPLEX_PARTS(Complex, Real) \
   template <>                             \
   struct PartsOf<Complex> {               \
     using Part = Real;                    \
     static constexpr int kCount = 2;      \
+  };                                      \
+  template <>                             \
+  struct ComplexWith<Real> {              \
+    using Type = Complex;                 \
   };
 ORBS_COMPLEX_PARTS(Orb32fc, Orb32f)
 ORBS_COMPLEX_PARTS(Orb64fc, Orb64f)
@@ -27,6 +33,10 @@ ORBS_COMPLEX_PARTS(Orb32sc, Orb32s)
 
 template <class T>
 using PartOf = typename PartsOf<T>::Part;
+
+// The complex type of these parts.
+template <class Part>
+using ComplexOf = typename ComplexWith<Part>::Type;
 
 template <class T>
 ORBS_INLINE PartOf<T>* Parts(T* array) {

@@ -11,14 +11,14 @@
 #ifndef ORBS_FIR_DELIVER_H
 #define ORBS_FIR_DELIVER_H
 
+#include "core/scaling.h"
 #include "fir/kinds.h"
 #include "simd/blocks.h"
 #include "simd/round_scaled.h"
-#include "core/scaling.h"
 #include "simd/simd.h"
 #include "toolkit/toolkit.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 // ---- Arrays of n parts ----
 
@@ -73,6 +73,6 @@ ORBS_INLINE Data DeliverOne(Sum sum, Orb32s scaleFactor) {
   }
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

@@ -46,7 +46,7 @@ struct FIRIntState {
   Orb32s owned;
 };
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 // A kind of float state: the type of its taps and of its data. The identity is four characters.
 template <class TapType, class DataType>
@@ -89,6 +89,6 @@ using Fir16s = FirIntKind<Orb16s, Orb16s, 0x46493239>;
 using Fir32s_16s = FirIntKind<Orb32s, Orb16s, 0x46493039>;
 using Fir32sc_16sc = FirIntKind<Orb32sc, Orb16sc, 0x46493130>;
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

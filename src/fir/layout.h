@@ -9,34 +9,13 @@
 #include "toolkit/toolkit.h"
 #include "transform/fft.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 // ---- The plan that belongs to a tap type ----
 
+using transform::FftForm;
 template <class Tap>
-struct FirFft;
-
-#define ORBS_FIR_FFT(Tap, suffix, forward, inverse, product)                                             \
-  template <>                                                                                            \
-  struct FirFft<Tap> {                                                                                   \
-    using Plan = FFTSpec_##suffix;                                                                       \
-    static OrbStatus GetSize(Orb32s order, Orb32s* plan, Orb32s* init, Orb32s* work) {                   \
-      return FFTGetSize_##suffix(order, FftScaleInvByN, HintNone, plan, init, work);                     \
-    }                                                                                                    \
-    static OrbStatus Init(Plan** planOut, Orb32s order, void* plan, void* init) {                        \
-      return FFTInit_##suffix(planOut, order, FftScaleInvByN, HintNone, plan, init);                     \
-    }                                                                                                    \
-    static OrbStatus Forward(const Tap* src, Tap* dst, const Plan* plan, void* work) {                   \
-      return forward(src, dst, plan, work);                                                              \
-    }                                                                                                    \
-    static OrbStatus Inverse(Tap* x, const Plan* plan, void* work) { return inverse(x, x, plan, work); } \
-    static void Multiply(const Tap* by, Tap* x, Orb32s n) { product(by, x, n); }                         \
-  };
-ORBS_FIR_FFT(Orb32f, R_32f, FFTFwd_RToPerm_32f, FFTInv_PermToR_32f, VecMulPerm_32f_I)
-ORBS_FIR_FFT(Orb64f, R_64f, FFTFwd_RToPerm_64f, FFTInv_PermToR_64f, VecMulPerm_64f_I)
-ORBS_FIR_FFT(Orb32fc, C_32fc, FFTFwd_CToC_32fc, FFTInv_CToC_32fc, VecMul_32fc_I)
-ORBS_FIR_FFT(Orb64fc, C_64fc, FFTFwd_CToC_64fc, FFTInv_CToC_64fc, VecMul_64fc_I)
-#undef ORBS_FIR_FFT
+using FirFft = transform::Fft<PartOf<Tap>, PartsOf<Tap>::kCount == 2 ? FftForm::interleaved : FftForm::real>;
 
 // The smallest order whose half holds more than n points: L is 2n+2 to 4n, so that at least half of each
 // transform is useful output.
@@ -64,7 +43,9 @@ FirFftSizes SizeFirFft(Orb32s n, Orb32s fromTaps) {
   FirFftSizes sizes;
   if (n < fromTaps) return sizes;
   sizes.order = FirFftOrder(n);
-  if (FirFft<Tap>::GetSize(sizes.order, &sizes.plan, &sizes.init, &sizes.work) != StatusOk) return {};
+  if (FirFft<Tap>::GetSize(sizes.order, FftScaleInvByN, HintNone, &sizes.plan, &sizes.init, &sizes.work) !=
+      StatusOk)
+    return {};
   sizes.length = Orb32s{1} << sizes.order;
   return sizes;
 }
@@ -128,6 +109,6 @@ int64_t FirStateBytes(Orb32s n, const FirFftSizes& fft) {
          fft.Total();
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

@@ -4,11 +4,11 @@
 
 #include <cstdint>
 
-#include "fir/stream.h"
 #include "core/variant.h"
+#include "fir/stream.h"
 #include "orbs90lgc/types.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 // A doubled ring: each sample stands at i and at i + n, so that line[i] to line[i+n-1] are always the last n
 // samples, the oldest first. 64 bits, since 2n need not fit in 32.
@@ -47,6 +47,6 @@ struct FirRing {
   }
 };
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

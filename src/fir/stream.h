@@ -10,10 +10,10 @@
 
 #include <cstring>
 
-#include "fir/tuning.h"
 #include "core/variant.h"
+#include "fir/tuning.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 template <class T>
 ORBS_INLINE void Copy(const T* src, T* dst, int64_t n) {
@@ -85,6 +85,6 @@ void FilterThroughBuffer(Engine engine, const typename Engine::Data* src, typena
   if (inBlock) Copy(samples, delay, n);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

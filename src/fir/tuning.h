@@ -9,7 +9,7 @@
 #include "core/variant.h"
 #include "orbs90lgc/types.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 // Groups of variants that share sizes.
 inline constexpr bool kIsPx = kVariant == Variant::px;
@@ -114,6 +114,6 @@ constexpr int64_t FirIntBytes_32sc(int64_t n) {
   return kIsPx ? bytes : bytes + 16 * n + (kIsAvx ? 512 : 0);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

@@ -7,7 +7,7 @@
 
 #if ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 // operation(d, first) writes kBlock elements behind d, those of the indices from `first` on. The last block
 // of an array is written over the end of the one before; an array below one block gets the front of a block,
@@ -44,7 +44,7 @@ ORBS_INLINE Vector LaneNumbers() {
   return LaneNumbers(static_cast<Vector*>(nullptr));
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif
 #endif

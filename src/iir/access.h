@@ -1,44 +1,44 @@
-// The delay line of an IIR state as it crosses the interface, and which states a function takes.
+// Coefficients and delay lines of IIR states, replaced and read while the filter runs.
 #ifndef ORBS_IIR_ACCESS_H
 #define ORBS_IIR_ACCESS_H
 
-#include <cstring>
+#include "iir/interface.h"
 
-#include "core/checks.h"
-#include "iir/state.h"
+#include "iir/given_taps.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 
-// The words at the interface are the bits of the elements. Null stands for zeros.
-template <class Kind>
-void StoreDelay(IirView<Kind> view, const typename Kind::IntegerTap* delayLine) {
-  static_assert(sizeof(typename Kind::IntegerTap) == sizeof(typename Kind::Work));
-  const size_t bytes = static_cast<size_t>(view.state->delayLen) * sizeof(typename Kind::Work);
-  if (delayLine == nullptr) {
-    std::memset(static_cast<void*>(view.Delay()), 0, bytes);
-  } else {
-    std::memcpy(static_cast<void*>(view.Delay()), delayLine, bytes);
-  }
+template <class Kind, class Given>
+OrbStatus SetTapsOf(IIRState* state, const Given* taps, Orb32s tapsFactor) {
+  const IirView<Kind> view{state};
+  const GivenTaps<Kind, Given> given(taps, view.Units(), tapsFactor);
+  if (given.Get() == nullptr) return StatusMemAlloc;
+  return StoreTaps(view, given.Get());
+}
+
+template <class Numbers, class Given>
+OrbStatus SetTaps(const Given* taps, IIRState* state, Orb32s tapsFactor = 0) {
+  ORBS_RETURN_IF_BAD(CheckKinds<Numbers>(state, 1, taps));
+  return IsCascade<Numbers>(state) ? SetTapsOf<CascadeOf<Numbers>>(state, taps, tapsFactor)
+                                   : SetTapsOf<ArbitraryOrderOf<Numbers>>(state, taps, tapsFactor);
+}
+
+// Both kinds of a data type keep their delay line alike.
+template <class Numbers>
+OrbStatus GetDlyLine(const IIRState* state, typename Numbers::IntegerTap* delayLine) {
+  ORBS_RETURN_IF_BAD(CheckKinds<Numbers>(state, 1, delayLine));
+  std::memcpy(delayLine, state->delayLine.In(state),
+              static_cast<size_t>(state->delayLen) * sizeof(typename Numbers::Work));
+  return StatusOk;
 }
 
 template <class Numbers>
-ORBS_INLINE bool IsCascade(const IIRState* state) {
-  return HasIdentity(state, CascadeOf<Numbers>::kId);
+OrbStatus SetDlyLine(IIRState* state, const typename Numbers::IntegerTap* delayLine) {
+  ORBS_RETURN_IF_BAD(CheckKinds<Numbers>(state));
+  StoreDelay(IirView<ArbitraryOrderOf<Numbers>>{state}, delayLine);
+  return StatusOk;
 }
 
-// One function serves both kinds of its data type: pointers, count, identity.
-template <class Numbers, class... Data>
-ORBS_INLINE OrbStatus CheckKinds(const IIRState* state, Orb32s count, const Data*... data) {
-  if (state == nullptr || AnyNull(data...)) return StatusNullPointer;
-  return CheckState(state,
-                    IsCascade<Numbers>(state) ? CascadeOf<Numbers>::kId : ArbitraryOrderOf<Numbers>::kId,
-                    count, data...);
-}
-template <class Numbers>
-ORBS_INLINE OrbStatus CheckKinds(const IIRState* state) {
-  return CheckKinds<Numbers>(state, 1);
-}
-
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir
 
 #endif

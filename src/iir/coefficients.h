@@ -6,7 +6,7 @@
 #include "iir/layout.h"
 #include "iir/number.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 
 // ---- Tables of the vector variants ----
 
@@ -116,6 +116,6 @@ OrbStatus StoreTaps(IirView<Kind> view, const typename Kind::Work* given) {
   return StatusOk;
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir
 
 #endif

@@ -3,10 +3,10 @@
 #define ORBS_IIR_GIVEN_TAPS_H
 
 #include "core/memory.h"
-#include "toolkit/toolkit.h"
 #include "iir/coefficients.h"
+#include "toolkit/toolkit.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 
 template <class Kind, class Given>
 class GivenTaps {
@@ -40,6 +40,6 @@ class GivenTaps {
   const Work* taps_ = nullptr;
 };
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir
 
 #endif

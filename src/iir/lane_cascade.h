@@ -12,12 +12,12 @@
 #ifndef ORBS_IIR_LANE_CASCADE_H
 #define ORBS_IIR_LANE_CASCADE_H
 
-#include "simd/lanes.h"
 #include "iir/number.h"
+#include "simd/lanes.h"
 
 #if ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 
 // From a result to that of the next section lie a move across the vector, an insertion and three
 // multiply-adds: four times the one that lies between two results of a section.
@@ -163,7 +163,7 @@ class LaneCascade {
   F32 waiting_[kLaneLag];  // results on their way to the next lane, the oldest first
 };
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir
 
 #endif
 #endif

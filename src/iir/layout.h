@@ -4,7 +4,7 @@
 
 #include "iir/state.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 
 inline constexpr uintptr_t kIirAlignment = 32;
 
@@ -82,6 +82,6 @@ constexpr int64_t IirStateBytes(int64_t n) {
   return RoundUp(4 * n + 4, 16) + RoundUp(8 * n + 4, 16) + (kPx ? 80 : 32 * n + 8376);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir
 
 #endif

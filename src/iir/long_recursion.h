@@ -14,15 +14,15 @@
 
 #include <cstring>
 
+#include "iir/layout.h"
 #include "simd/blocks.h"
+#include "simd/lanes.h"
 #include "simd/sliding_products.h"
 #include "toolkit/toolkit.h"
-#include "simd/lanes.h"
-#include "iir/layout.h"
 
 #if ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 
 // The product of a row and a number; complex ones in two parts, so that the swap is made once a sum.
 template <int kParts>
@@ -215,7 +215,7 @@ void RunLongRecursion(const Orb64f* table, Orb32s order, Orb32f* y, Orb32s count
   });
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir
 
 #endif
 #endif

@@ -17,13 +17,13 @@
 
 #include <cstring>
 
+#include "iir/layout.h"
 #include "simd/blocks.h"
 #include "simd/lanes.h"
-#include "iir/layout.h"
 
 #if ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 
 inline constexpr int kQuarterParts = 4;
 inline constexpr int kVectorParts = F32::kLanes;
@@ -269,7 +269,7 @@ class ShortRecursion {
   F32 newest_;
 };
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir
 
 #endif
 #endif

@@ -5,7 +5,7 @@
 #include "core/parts.h"
 #include "core/variant.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 
 template <class T, int kParts>
 struct Number {
@@ -63,6 +63,6 @@ ORBS_INLINE Number<T, kParts> Reciprocal(Number<T, kParts> a) {
   }
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir
 
 #endif

@@ -4,15 +4,15 @@
 
 #include <utility>
 
-#include "simd/round_scaled.h"
-#include "simd/sliding_products.h"
-#include "toolkit/toolkit.h"
 #include "iir/lane_cascade.h"
 #include "iir/long_recursion.h"
 #include "iir/look_ahead.h"
 #include "iir/step.h"
+#include "simd/round_scaled.h"
+#include "simd/sliding_products.h"
+#include "toolkit/toolkit.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 namespace {
 
 #if ORBS_VECTOR
@@ -157,4 +157,4 @@ template void RunIir(IirView<CascadeOf<RealNumbers>>, const Orb16s*, Orb16s*, Or
 template void RunIir(IirView<ArbitraryOrderOf<ComplexNumbers>>, const Orb16sc*, Orb16sc*, Orb32s, Orb32s);
 template void RunIir(IirView<CascadeOf<ComplexNumbers>>, const Orb16sc*, Orb16sc*, Orb32s, Orb32s);
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir

@@ -4,7 +4,7 @@
 
 #include "iir/state.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 
 // `count` is at least 1; src and dst are one array or do not overlap. Kind is one of the four of IirKindsOf.
 template <class Kind>
@@ -17,6 +17,6 @@ extern template void RunIir(IirView<ArbitraryOrderOf<ComplexNumbers>>, const Orb
                             Orb32s);
 extern template void RunIir(IirView<CascadeOf<ComplexNumbers>>, const Orb16sc*, Orb16sc*, Orb32s, Orb32s);
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir
 
 #endif

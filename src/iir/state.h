@@ -10,9 +10,9 @@
 
 #include "core/parts.h"
 #include "core/record.h"
-#include "simd/simd.h"
 #include "core/variant.h"
 #include "orbs90lgc/types.h"
+#include "simd/simd.h"
 
 // Offsets are 0 where a state has no such array; the last four arrays are those of the vector variants.
 struct IIRState {
@@ -28,7 +28,7 @@ struct IIRState {
   Orb32s owned;  // 1: IIRInitAlloc* made the state
 };
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 
 // What a real and what a complex filter work with.
 template <class DataType, class WorkType, class IntegerTapType>
@@ -91,6 +91,6 @@ struct IirView {
   Orb32s Units() const { return Kind::kCascade ? state->sectionCount : state->delayLen; }
 };
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir
 
 #endif

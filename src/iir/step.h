@@ -9,11 +9,11 @@
 #define ORBS_IIR_STEP_H
 
 #include "core/scaling.h"
-#include "simd/lanes.h"
 #include "iir/layout.h"
 #include "iir/number.h"
+#include "simd/lanes.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::iir {
 
 template <class Kind>
 using StepNumber = Number<Wide<Orb32f>, Kind::kParts>;
@@ -190,6 +190,6 @@ void RunSteps(IirView<Kind> view, const typename Kind::Data* src, typename Kind:
   for (; i < count; ++i) DeliverSample<Kind>(Step(view, N::From(src[i])), factor, dst + i);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::iir
 
 #endif

@@ -20,7 +20,7 @@
 #include "simd/simd.h"
 #endif
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::modem {
 
 // atan t = t (1 + c1 u + c2 u^2 + c3 u^3) / (1 + d1 u + d2 u^2 + d3 u^3), u = t^2, within 2e-9 for |t| <= 1.
 inline constexpr Orb32f kArctangentC[3] = {1.1202340126f, 0.28050455451f, 0.0085611892864f};
@@ -152,6 +152,6 @@ inline void DemodulateFM(const Orb16s* srcRe, const Orb16s* srcIm, Orb16s* dst, 
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::modem
 
 #endif

@@ -19,12 +19,12 @@
 #include "core/variant.h"
 
 #if ORBS_VECTOR
+#include "core/unrolled.h"
 #include "simd/blocks.h"
 #include "simd/simd.h"
-#include "core/unrolled.h"
 #endif
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::modem {
 
 // The step exp(-j w) from one sample to the next, as cos w and sin w.
 struct Rotation {
@@ -356,6 +356,6 @@ inline void SumTurned(const Orb64fc* src, Orb32s len, const Rotation (&r)[2], Or
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::modem
 
 #endif

@@ -9,7 +9,7 @@
 #include "simd/simd.h"
 #endif
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::modem {
 
 // ---- The nearest point of each subset ----
 
@@ -231,6 +231,6 @@ inline void BuildSymbols64(const Orb32u* variants, Orb16sc* symbols, Orb32s x) {
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::modem
 
 #endif

@@ -13,7 +13,7 @@
 #include "simd/simd.h"
 #endif
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::modem {
 
 inline constexpr Orb16u kUnreached = 65535;
 
@@ -203,6 +203,6 @@ inline Orb16u NormaliseMetrics(Orb16u* newMetrics, Orb16u* oldMetrics, Orb32s n,
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::modem
 
 #endif

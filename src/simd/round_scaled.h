@@ -3,10 +3,10 @@
 #ifndef ORBS_SIMD_ROUND_SCALED_H
 #define ORBS_SIMD_ROUND_SCALED_H
 
-#include "simd/blocks.h"
 #include "core/scaling.h"
-#include "simd/simd.h"
 #include "orbs90lgc/types.h"
+#include "simd/blocks.h"
+#include "simd/simd.h"
 
 #if ORBS_VECTOR
 

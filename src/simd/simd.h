@@ -14,10 +14,11 @@
 // px has no vectors and does not include this. Loads and stores are unaligned: on every level above w7 they
 // cost nothing when the address is aligned, and callers' arrays carry no promise.
 //
-// Vectors never cross a call. A function that is not inlined takes numbers and broadcasts them itself; functions on vectors
-// are ORBS_INLINE. Where one takes or gives back a vector of 256 bits, or a structure or closure that holds one, the
-// compiler leaves out its vzeroupper, and its callers have none either: the library would return to SSE code with the upper
-// halves in use, which many processors punish at every instruction.
+// Vectors never cross a call. A function that is not inlined takes numbers and broadcasts them itself;
+// functions on vectors are ORBS_INLINE. Where one takes or gives back a vector of 256 bits, or a structure or
+// closure that holds one, the compiler leaves out its vzeroupper, and its callers have none either: the
+// library would return to SSE code with the upper halves in use, which many processors punish at every
+// instruction.
 #ifndef ORBS_SIMD_SIMD_H
 #define ORBS_SIMD_SIMD_H
 

@@ -1,6 +1,6 @@
 // Complex arithmetic on interleaved pairs, and products of spectra in the Pack and Perm layouts.
-#include "simd/blocks.h"
 #include "core/checks.h"
+#include "simd/blocks.h"
 #include "simd/simd.h"
 #include "toolkit/toolkit.h"
 

@@ -1,8 +1,8 @@
 // Conversions without scaling.
 #include <cfloat>
 
-#include "simd/blocks.h"
 #include "core/checks.h"
+#include "simd/blocks.h"
 #include "simd/simd.h"
 #include "toolkit/toolkit.h"
 

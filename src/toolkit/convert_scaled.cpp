@@ -1,8 +1,8 @@
 // Conversions with a scale factor.
-#include "simd/blocks.h"
 #include "core/checks.h"
-#include "simd/round_scaled.h"
 #include "core/scaling.h"
+#include "simd/blocks.h"
+#include "simd/round_scaled.h"
 #include "simd/simd.h"
 #include "toolkit/toolkit.h"
 

@@ -1,9 +1,9 @@
 // Division with defined results for divisors of 0.
 #include <limits>
 
-#include "simd/blocks.h"
 #include "core/checks.h"
 #include "core/scaling.h"
+#include "simd/blocks.h"
 #include "simd/simd.h"
 #include "toolkit/toolkit.h"
 

@@ -3,10 +3,10 @@
 
 #include <limits>
 
-#include "simd/blocks.h"
 #include "core/checks.h"
-#include "simd/logarithm.h"
 #include "core/scaling.h"
+#include "simd/blocks.h"
+#include "simd/logarithm.h"
 #include "simd/simd.h"
 #include "toolkit/toolkit.h"
 

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <cstring>
 
-#include "simd/blocks.h"
 #include "core/checks.h"
+#include "simd/blocks.h"
 #include "simd/simd.h"
 #include "toolkit/toolkit.h"
 #ifdef __AVX__

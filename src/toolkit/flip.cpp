@@ -67,7 +67,8 @@ void ReverseCopy(const Orb32f* src, Orb32f* dst, size_t n) {
 
 #else
 
-// Elements move as bytes: a pass through the registers of the x87 would turn a signalling NaN into a quiet one.
+// Elements move as bytes: a pass through the registers of the x87 would turn a signalling NaN into a quiet
+// one.
 
 template <int kPartsPerElement, class T>
 void ReverseInPlace(T* x, size_t parts) {

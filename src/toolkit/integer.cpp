@@ -1,8 +1,8 @@
 // Integer primitives: fixed-point product with a root of 2, 16-bit dot product, interleaving of pairs.
 #include <cstring>
 
-#include "simd/blocks.h"
 #include "core/checks.h"
+#include "simd/blocks.h"
 #include "simd/simd.h"
 #include "toolkit/toolkit.h"
 

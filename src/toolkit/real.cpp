@@ -1,9 +1,9 @@
 // Real arithmetic on single arrays: product with a constant, sum, square root.
 #include <cmath>
 
-#include "simd/blocks.h"
 #include "core/checks.h"
 #include "core/scaling.h"
+#include "simd/blocks.h"
 #include "simd/simd.h"
 #include "toolkit/toolkit.h"
 

@@ -7,7 +7,7 @@
 #include "core/variant.h"
 #include "orbs90lgc/types.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // A pair of numbers, one for binary32 and one for binary64.
 struct ByWidth {
@@ -25,25 +25,43 @@ struct FftTuning {
   ByWidth maxRealOrder;
   int codeletCeiling;          // the largest complex order done by a codelet, without any table
   ByWidth realCodeletCeiling;  // the same for real orders
-  int halfCodeletCeiling;    // the largest real order whose complex transform of half the length is a codelet
-  ByWidth onePassCeiling;    // the largest complex order that is not cut into rows and columns
-  ByWidth twoLevelRealFrom;  // the real order from which the tables of the real split have two levels
+  ByWidth onePassCeiling;      // the largest complex order that is not cut into rows and columns
+  ByWidth twoLevelRealFrom;    // the real order from which the tables of the real split have two levels
 };
 
 // clang-format off
 inline constexpr FftTuning kFftTunings[kVariantCount] = {
-    // complex   real      codelet  real     half     one pass  two-level
-    //                              codelet  codelet            real from
-    {{27, 26}, {28, 27},   5,      {5, 5},   6,      {10, 10}, {19, 18}},  // px
-    {{28, 27}, {29, 28},   5,      {4, 5},   6,      {15, 13}, {19, 18}},  // w7
-    {{28, 27}, {29, 28},   5,      {4, 5},   6,      {17, 16}, {19, 18}},  // v8
-    {{28, 26}, {29, 27},   5,      {4, 5},   6,      {15, 12}, {18, 18}},  // s8
-    {{28, 27}, {29, 28},   5,      {4, 5},   6,      {17, 16}, {20, 19}},  // p8
-    {{28, 27}, {29, 28},   6,      {4, 4},   7,      {18, 17}, {18, 18}},  // g9
-    {{28, 27}, {29, 28},   6,      {4, 4},   7,      {18, 17}, {18, 18}},  // h9
+    // complex   real      codelet  real     one pass  two-level
+    //                              codelet            real from
+    {{27, 26}, {28, 27},   5,      {5, 5},   {10, 10}, {19, 18}},  // px
+    {{28, 27}, {29, 28},   5,      {4, 5},   {15, 13}, {19, 18}},  // w7
+    {{28, 27}, {29, 28},   5,      {4, 5},   {17, 16}, {19, 18}},  // v8
+    {{28, 26}, {29, 27},   5,      {4, 5},   {15, 12}, {18, 18}},  // s8
+    {{28, 27}, {29, 28},   5,      {4, 5},   {17, 16}, {20, 19}},  // p8
+    {{28, 27}, {29, 28},   6,      {4, 4},   {18, 17}, {18, 18}},  // g9
+    {{28, 27}, {29, 28},   6,      {4, 4},   {18, 17}, {18, 18}},  // h9
 };
 // clang-format on
 inline constexpr FftTuning kFftTuning = kFftTunings[static_cast<int>(kVariant)];
+
+// What computes 2^order complex points: those of a complex plan, or the half of a real one.
+enum class FftEngine {
+  codelet,  // straight code for each order, without any table
+  onePass,  // passes over the whole array
+  large     // rows and columns, so that each stays in the cache
+};
+template <class T>
+constexpr FftEngine ChooseEngine(int order) {
+  return order <= kFftTuning.codeletCeiling            ? FftEngine::codelet
+         : order <= Pick<T>(kFftTuning.onePassCeiling) ? FftEngine::onePass
+                                                       : FftEngine::large;
+}
+
+// Real transforms that are codelets as a whole have no tables either.
+template <class T>
+constexpr bool IsRealCodelet(int order) {
+  return order <= Pick<T>(kFftTuning.realCodeletCeiling);
+}
 
 // The in-order processors of s8 reverse interleaved 64f data in place: such a plan needs no work buffer up to
 // the one-pass ceiling, where all others take one copy of the data.
@@ -73,6 +91,6 @@ constexpr int FftSplitOrder(int order) {
   return std::is_same_v<T, Orb32f> ? FFTSplitOrder_32f[i] : FFTSplitOrder_64f[i];
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

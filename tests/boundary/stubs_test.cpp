@@ -7,8 +7,8 @@
 
 #include "boundary/dispatch.h"
 #include "boundary/processor.h"
-#include "tests/boundary/registers.h"
 #include "orbs90lgc.h"
+#include "tests/boundary/registers.h"
 #include "tests/support/variants.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Holds the built library against the list of exports and against what a loader expects of a clean shared library.
 
-usage: symbols_test.py LIBRARY EXPORTS_DEF INCLUDE_DIR [--sanitized]
+usage: symbols_test.py LIBRARY EXPORTS_DIR INCLUDE_DIR [--sanitized]
 """
 import glob
 import os
@@ -10,7 +10,7 @@ import subprocess
 import sys
 import unittest
 
-LIBRARY, LIST, INCLUDE = sys.argv[1:4]
+LIBRARY, LISTS, INCLUDE = sys.argv[1:4]
 SANITIZED = '--sanitized' in sys.argv
 VERSION_NODE = 'ORBS90LGC_9.0'
 
@@ -26,7 +26,8 @@ def text_of(path):
 
 def listed(kinds):
     return {'legacy90orbs' + name
-            for name in re.findall(rf'^ORBS_(?:{kinds})\(\w+, [^,]+, (\w+), \(', text_of(LIST), re.MULTILINE)}
+            for slice_ in glob.glob(os.path.join(LISTS, '*.def'))
+            for name in re.findall(rf'^ORBS_(?:{kinds})\(\w+, [^,]+, (\w+), \(', text_of(slice_), re.MULTILINE)}
 
 
 def code_symbols():

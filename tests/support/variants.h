@@ -6,16 +6,12 @@
 
 #include <string>
 
-#include "core/variants.h"
+#include "tests/support/runnable_variants.h"
 
 namespace orbs::test {
 
 inline constexpr Variant kAllVariants[kVariantCount] = {Variant::px, Variant::w7, Variant::v8, Variant::s8,
                                                         Variant::p8, Variant::g9, Variant::h9};
-
-const char* VariantName(Variant variant);
-bool CanRun(Variant variant);
-bool HasMovbe();
 
 // The name of the variant as the last part of the test's name.
 struct VariantNamer {

@@ -8,12 +8,12 @@
 #ifndef ORBS_FIR_ADAPTIVE_LMS_KERNELS_H
 #define ORBS_FIR_ADAPTIVE_LMS_KERNELS_H
 
+#include "core/scaling.h"
 #include "fir/adaptive/lms_walk.h"
 #include "fir/ring.h"
-#include "core/scaling.h"
 #include "simd/simd.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 #if ORBS_VECTOR
 
@@ -157,6 +157,6 @@ inline Orb64s LmsStepQ15(const FirRing<Orb16s>& ring, Orb16s newest, Orb16s refe
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

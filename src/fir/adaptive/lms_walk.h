@@ -18,7 +18,7 @@
 
 #if ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 // A vector of elements, converted to its lanes.
 template <class V, class T>
@@ -145,7 +145,7 @@ class LmsSplit {
   V unseen_;
 };
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif
 #endif

@@ -14,12 +14,12 @@
 #include <cstdint>
 #include <cstring>
 
+#include "core/checks.h"
+#include "fir/kinds.h"
 #include "fir/ring.h"
 #include "fir/stream.h"
-#include "fir/kinds.h"
-#include "core/checks.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 // ---- Checks: each pointer stands in front of what is counted in it ----
 
@@ -164,6 +164,6 @@ OrbStatus FilterDirectOne(const Arithmetic& filter, const Data* src, Data* dst, 
   return StatusOk;
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

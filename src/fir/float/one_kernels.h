@@ -8,12 +8,12 @@
 
 #include <cstddef>
 
-#include "fir/kinds.h"
 #include "core/scaling.h"
+#include "fir/kinds.h"
 #include "simd/simd.h"
 #include "simd/sliding_products.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 #if ORBS_VECTOR
 
@@ -234,6 +234,6 @@ void FirDot(const Sample* x, const Part* taps, Orb32s tapCount, Wide<Part> (&y)[
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

@@ -5,11 +5,11 @@
 
 #include <cstring>
 
-#include "fir/layout.h"
 #include "core/checks.h"
+#include "fir/layout.h"
 #include "toolkit/toolkit.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 template <class Kind>
 struct FirView {
@@ -135,7 +135,8 @@ OrbStatus Build(FIRFloatState* state, const Given* taps, Orb32s n, const typenam
   OrbStatus status = StatusOk;
   if (fft.length != 0) {
     typename FirFft<Tap>::Plan* plan = nullptr;
-    status = FirFft<Tap>::Init(&plan, fft.order, layout.plan.In(state), layout.init.In(state));
+    status = FirFft<Tap>::Init(&plan, fft.order, FftScaleInvByN, HintNone, layout.plan.In(state),
+                               layout.init.In(state));
     if (status == StatusOk) {
       state->fftSpec.bytes = static_cast<Orb32s>(reinterpret_cast<unsigned char*>(plan) -
                                                  reinterpret_cast<unsigned char*>(state));
@@ -151,6 +152,6 @@ OrbStatus Build(FIRFloatState* state, const Given* taps, Orb32s n, const typenam
   return status;
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

@@ -14,11 +14,11 @@
 
 #include <cstring>
 
-#include "fir/kinds.h"
 #include "core/scaling.h"
+#include "fir/kinds.h"
 #include "simd/simd.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 // Sum * 2^d. d above 0 shifts left in 32 bits, bits above falling away; d below 0 rounds, ties to even.
 struct FirIntScale {
@@ -240,6 +240,6 @@ void FirIntSums(const Data* x, const Tap* taps, Orb32s n, Data* dst, Orb32s coun
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

@@ -10,7 +10,7 @@
 #include "fir/kinds.h"
 #include "fir/tuning.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::fir {
 
 template <class Kind>
 struct FirIntView {
@@ -182,6 +182,6 @@ FirIntView<Kind> BuildFirInt(FIRIntState* state, Orb32s n, const typename Kind::
   return view;
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::fir
 
 #endif

@@ -15,7 +15,7 @@
 #include "core/scaling.h"
 #include "gen/companding/companding_tables.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 inline constexpr Orb32f kLinearScale = 1.0f / 32768;  // 16-bit full scale to 1.0
 
@@ -81,7 +81,7 @@ inline void EncodeMuLaw(const Orb32f* src, Orb8u* dst, Orb32s len) {
   }
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif
 #endif

@@ -6,7 +6,7 @@
 #include "core/variant.h"
 #include "orbs90lgc/types.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 template <class T>
 struct CodeTable {
@@ -71,6 +71,6 @@ inline constexpr CodeTable<Orb8u> MuLawToALawTable = Tabulate(ConvertMuLawCode);
 // The last value of each A-law segment.
 inline constexpr Orb16s ALawSegmentEnds[8] = {255, 511, 1023, 2047, 4095, 8191, 16383, 32767};
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif

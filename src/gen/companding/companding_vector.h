@@ -5,7 +5,7 @@
 #include "simd/blocks.h"
 #include "simd/simd.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 inline constexpr Orb32f kLinearScale = 1.0f / 32768;  // 16-bit full scale to 1.0
 
@@ -340,6 +340,6 @@ inline void EncodeMuLaw(const Orb32f* src, Orb8u* dst, Orb32s len) {
   Encode(src, dst, len, [](const Orb32f* s) { return MuLawCodes(LoadAsSamples(s), LoadSigns(s)); });
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif

@@ -8,7 +8,7 @@
 #include "core/scaling.h"
 #include "gen/generate.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 #if ORBS_VECTOR
 
@@ -174,6 +174,6 @@ inline void FillLine(Orb8s* dst, Orb32s len, Orb32f base, Orb32f slope) { FillRa
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif

@@ -8,7 +8,7 @@
 
 #if ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 // get(i) is the vector of the values from the i-th on; the first `count` of them, rounded up to a whole
 // number of vectors, are written. `store` makes 32-bit integers of a vector.
@@ -51,7 +51,7 @@ ORBS_INLINE Orb32s DeliverRandom(Result* d, Orb32s room, int count, Get get, Sto
   return delivered;
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif
 #endif

@@ -2,10 +2,10 @@
 #ifndef ORBS_GEN_RANDOM_RANDOM_SEQUENCE_H
 #define ORBS_GEN_RANDOM_RANDOM_SEQUENCE_H
 
-#include "simd/simd.h"
 #include "orbs90lgc/types.h"
+#include "simd/simd.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 inline constexpr Orb32u kLinearFactor = 69069;
 inline constexpr Orb32u kLinearTerm = 1013904243;
@@ -174,6 +174,6 @@ class RandomNumbers {
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif

@@ -6,7 +6,7 @@
 
 #if ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 // Taylor coefficients in z = x^2. At the largest x, pi/4, the first term left out is 2e-18 of the cosine and
 // 5e-17 of the sine.
@@ -61,7 +61,7 @@ ORBS_INLINE void StoreCosineAndSine(F64 turns, Orb64f* cosines, Orb64f* sines) {
   s.Store(sines);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif
 #endif

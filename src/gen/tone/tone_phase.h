@@ -7,7 +7,7 @@
 #include "core/variant.h"
 #include "orbs90lgc/types.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 inline constexpr Orb64f kTwoPi = 6.283185307179586;
 inline constexpr Orb64f kInverseTwoPi = 0.15915494309189535;
@@ -36,6 +36,6 @@ ORBS_INLINE T AdvancedPhase(T phase, Orb32s len, T rFreq) {
   return IsWithin(0, stored, kTwoPi) ? stored : T(0);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif

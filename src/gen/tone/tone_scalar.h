@@ -9,7 +9,7 @@
 
 #if !ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 using Extended = Wide<Orb64f>;
 
@@ -77,7 +77,7 @@ inline void GenerateIndexedTone(Orb16s* dst, Orb32s len, Orb64f magn, Orb64f rFr
   }
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif
 #endif

@@ -12,7 +12,7 @@
 #include "simd/simd.h"
 #endif
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 // How a value becomes a 16-bit integer. No bound is tested: |y| is at most the magnitude, which is one.
 enum class ToInteger { kTruncate, kHalfAway };
@@ -68,6 +68,6 @@ ORBS_INLINE void StoreScaled(Part* dst, const V (&unit)[n], V magn) {
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif

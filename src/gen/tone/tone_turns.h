@@ -11,7 +11,7 @@
 
 #include "simd/simd.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 // The phase in which a wave starts, in turns: for samples far from it in extended precision, whose 64 bits
 // hold the product of an index and any binary32 frequency.
@@ -41,7 +41,7 @@ ORBS_INLINE F64 TurnsOfMultiples(F64 n, Orb64f rFreq) {
   return MulAdd(n, F64::All(rFreq - coarse), turns - RoundToWhole(turns));
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif
 #endif

@@ -20,7 +20,7 @@
 
 #if ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 inline constexpr int kToneUnit = 16;  // samples that a step computes, and that a segment starts from
 inline constexpr int kToneBlock = 1024;
@@ -210,7 +210,7 @@ inline void GenerateIndexedTone(Orb16s* dst, Orb32s len, Orb64f magn, Orb64f rFr
                                                                                        rFreq);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif
 #endif

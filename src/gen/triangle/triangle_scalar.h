@@ -7,7 +7,7 @@
 
 #if !ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 template <class Real>
 class TriangleWalk {
@@ -99,7 +99,7 @@ inline TrianglePlace<Orb64f> ContinueTriangle(Orb16s* dst, Orb32s len, const Tri
           walk.Place().rising};
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif
 #endif

@@ -15,7 +15,7 @@
 
 #if ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 // Samples between fresh places: in 64 steps at most, the rounding of the step adds up to 4e-15 turns.
 inline constexpr int kTriangleBlock = 256;
@@ -131,7 +131,7 @@ inline TrianglePlace<Orb64f> ContinueTriangle(Orb16s* dst, Orb32s len, const Tri
   return PlaceAtTurns(TurnsOfSample(origin, len, wave.rFreq), wave, shape, slopes);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif
 #endif

@@ -25,7 +25,7 @@ struct TriangleSlopes {
 
 }  // namespace orbs
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 inline constexpr Orb64f kPi = kTwoPi / 2;
 
@@ -68,6 +68,6 @@ struct TrianglePlace {
   bool rising;
 };
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif

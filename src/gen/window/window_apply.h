@@ -3,11 +3,11 @@
 #ifndef ORBS_GEN_WINDOW_WINDOW_APPLY_H
 #define ORBS_GEN_WINDOW_WINDOW_APPLY_H
 
-#include "simd/blocks.h"
 #include "core/scaling.h"
+#include "simd/blocks.h"
 #include "simd/simd.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::gen {
 
 #if ORBS_VECTOR
 
@@ -90,6 +90,6 @@ void ApplyWindow(const Data* src, Data* dst, Orb32s len, Window window, WeighPar
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::gen
 
 #endif

@@ -8,9 +8,12 @@
 #include "core/variant.h"
 #include "orbs90lgc/types.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 using Index = ptrdiff_t;
+
+// Of a real spectrum; transform/fft.h tells what stands where.
+enum class SpectrumLayout { perm, pack, ccs };
 
 // A complex number in the type of evaluation.
 template <class T>
@@ -99,6 +102,6 @@ ORBS_INLINE void Put(Split<T> data, Index k, Value<T> value) {
   data.im[k] = static_cast<T>(value.im);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

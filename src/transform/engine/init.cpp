@@ -3,17 +3,17 @@
 
 #include "core/checks.h"
 #include "core/memory.h"
-#include "transform/fft.h"
-#include "transform/engine/px/core.h"
 #include "transform/engine/layout.h"
-#include "transform/engine/sine.h"
-#include "transform/engine/tables.h"
+#include "transform/engine/px/core.h"
+#include "transform/engine/tables/sine.h"
+#include "transform/engine/tables/tables.h"
+#include "transform/fft.h"
 #include "transform/tuning.h"
 #if ORBS_VECTOR
 #include "transform/engine/vector/transform.h"
 #endif
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 namespace {
 
 constexpr Orb32s kLargestOrderAsked = 30;  // beyond it a size query does not look at anything else
@@ -22,19 +22,6 @@ template <class Plan>
 constexpr Orb32s MaxOrder() {
   return Pick<typename Plan::Real>(Plan::kForm == FftForm::real ? kFftTuning.maxRealOrder
                                                                 : kFftTuning.maxComplexOrder);
-}
-
-template <class Plan>
-OrbStatus GetSize(Orb32s order, Orb32s flag, Orb32s* planSize, Orb32s* initSize, Orb32s* workSize) {
-  if (order < 0 || order > kLargestOrderAsked) return StatusFftOrder;
-  ORBS_RETURN_IF_BAD(CheckResults(planSize, initSize, workSize));
-  if (!IsFftFlag(flag)) return StatusFftFlag;
-  if (order > MaxOrder<Plan>()) return StatusFftOrder;
-  const auto layout = DescribeFft<typename Plan::Real>(Plan::kForm, order);
-  *planSize = ReportedBytes(layout.PlanBytes());
-  *initSize = ReportedBytes(layout.InitBytes());
-  *workSize = ReportedBytes(layout.WorkBytes());
-  return StatusOk;
 }
 
 // 2^-order or its root, correctly rounded.
@@ -50,7 +37,7 @@ ORBS_INLINE Orb64f ScaleBySqrtN(Orb32s order) {
 template <class T>
 void BuildComplexTables(int order, SineTable<T> sine, const FftLayout<T>& layout, FftPlan<T>* plan,
                         void* init) {
-  if (order <= Pick<T>(kFftTuning.onePassCeiling)) {
+  if (ChooseEngine<T>(order) == FftEngine::onePass) {
     BuildVectorTables(order, sine, plan->tables.bitRev.In(plan), plan->tables.coreTw.In(plan));
   } else {
     BuildVectorLarge(order, sine, layout, plan, init);
@@ -107,9 +94,9 @@ void BuildTables(FftForm form, const FftLayout<T>& layout, FftPlan<T>* plan, voi
     BuildComplexTables(plan->order, sine, layout, plan, init);
     return;
   }
-  if (plan->order > kFftTuning.halfCodeletCeiling) {
-    BuildComplexTables(plan->order - 1, sine.Of(plan->order - 1), layout, plan, init);
-  }
+  const int half = plan->order - 1;
+  if (ChooseEngine<T>(half) != FftEngine::codelet)
+    BuildComplexTables(half, sine.Of(half), layout, plan, init);
   BuildRealTables(sine, plan->tables.realFwdTw.In(plan), plan->tables.realInvTw.In(plan));
 }
 
@@ -155,9 +142,25 @@ OrbStatus Build(Orb32s flag, void* initBuffer, Plan* plan) {
   return StatusOk;
 }
 
-template <class Plan>
-OrbStatus Init(Plan** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* planMemory,
-               void* initBuffer) {
+}  // namespace
+
+template <class T, FftForm form>
+OrbStatus FftLife<T, form>::GetSize(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
+                                    Orb32s* workSize) {
+  if (order < 0 || order > kLargestOrderAsked) return StatusFftOrder;
+  ORBS_RETURN_IF_BAD(CheckResults(planSize, initSize, workSize));
+  if (!IsFftFlag(flag)) return StatusFftFlag;
+  if (order > MaxOrder<Plan>()) return StatusFftOrder;
+  const auto layout = DescribeFft<T>(form, order);
+  *planSize = ReportedBytes(layout.PlanBytes());
+  *initSize = ReportedBytes(layout.InitBytes());
+  *workSize = ReportedBytes(layout.WorkBytes());
+  return StatusOk;
+}
+
+template <class T, FftForm form>
+OrbStatus FftLife<T, form>::Init(Plan** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* planMemory,
+                                 void* initBuffer) {
   if (planOut == nullptr) return StatusNullPointer;
   if (order < 0 || order > MaxOrder<Plan>()) return StatusFftOrder;
   if (planMemory == nullptr) return StatusNullPointer;
@@ -175,12 +178,12 @@ OrbStatus Init(Plan** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void*
   return StatusOk;
 }
 
-template <class Plan>
-OrbStatus InitAlloc(Plan** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
+template <class T, FftForm form>
+OrbStatus FftLife<T, form>::InitAlloc(Plan** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
   Orb32s sizes[3];
-  ORBS_RETURN_IF_BAD(GetSize<Plan>(order, flag, &sizes[0], &sizes[1], &sizes[2]));
+  ORBS_RETURN_IF_BAD(GetSize(order, flag, hint, &sizes[0], &sizes[1], &sizes[2]));
   if (planOut == nullptr) return StatusNullPointer;
-  const auto layout = DescribeFft<typename Plan::Real>(Plan::kForm, order);
+  const auto layout = DescribeFft<T>(form, order);
   void* block = AllocAligned(layout.PlanBytes());
   if (block == nullptr) return StatusMemAlloc;
   void* init = nullptr;
@@ -205,129 +208,26 @@ OrbStatus InitAlloc(Plan** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) 
   return StatusOk;
 }
 
-template <class Plan>
-OrbStatus Free(Plan* plan) {
+template <class T, FftForm form>
+OrbStatus FftLife<T, form>::Free(Plan* plan) {
   ORBS_RETURN_IF_BAD(CheckPlan(plan, Plan::kId));
   plan->id = 0;
   if (plan->allocated == 1) FreeAligned(reinterpret_cast<unsigned char*>(plan) + plan->block);
   return StatusOk;
 }
 
-template <class Plan>
-OrbStatus GetBufSize(const Plan* plan, Orb32s* size) {
+template <class T, FftForm form>
+OrbStatus FftLife<T, form>::GetBufSize(const Plan* plan, Orb32s* size) {
   ORBS_RETURN_IF_BAD(CheckPlan(plan, Plan::kId, size));
   *size = plan->workSize >= 1 ? plan->workSize + kBlockAlignment : 0;
   return StatusOk;
 }
 
-}  // namespace
+template struct FftLife<Orb32f, FftForm::interleaved>;
+template struct FftLife<Orb32f, FftForm::split>;
+template struct FftLife<Orb32f, FftForm::real>;
+template struct FftLife<Orb64f, FftForm::interleaved>;
+template struct FftLife<Orb64f, FftForm::split>;
+template struct FftLife<Orb64f, FftForm::real>;
 
-OrbStatus FFTGetSize_C_32fc(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
-                            Orb32s* workSize) {
-  return GetSize<FFTSpec_C_32fc>(order, flag, planSize, initSize, workSize);
-}
-
-OrbStatus FFTInit_C_32fc(FFTSpec_C_32fc** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint,
-                         void* planMemory, void* initBuffer) {
-  return Init(planOut, order, flag, hint, planMemory, initBuffer);
-}
-
-OrbStatus FFTInitAlloc_C_32fc(FFTSpec_C_32fc** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
-  return InitAlloc(planOut, order, flag, hint);
-}
-
-OrbStatus FFTFree_C_32fc(FFTSpec_C_32fc* plan) { return Free(plan); }
-
-OrbStatus FFTGetBufSize_C_32fc(const FFTSpec_C_32fc* plan, Orb32s* size) { return GetBufSize(plan, size); }
-
-OrbStatus FFTGetSize_C_32f(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
-                           Orb32s* workSize) {
-  return GetSize<FFTSpec_C_32f>(order, flag, planSize, initSize, workSize);
-}
-
-OrbStatus FFTInit_C_32f(FFTSpec_C_32f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* planMemory,
-                        void* initBuffer) {
-  return Init(planOut, order, flag, hint, planMemory, initBuffer);
-}
-
-OrbStatus FFTInitAlloc_C_32f(FFTSpec_C_32f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
-  return InitAlloc(planOut, order, flag, hint);
-}
-
-OrbStatus FFTFree_C_32f(FFTSpec_C_32f* plan) { return Free(plan); }
-
-OrbStatus FFTGetBufSize_C_32f(const FFTSpec_C_32f* plan, Orb32s* size) { return GetBufSize(plan, size); }
-
-OrbStatus FFTGetSize_R_32f(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
-                           Orb32s* workSize) {
-  return GetSize<FFTSpec_R_32f>(order, flag, planSize, initSize, workSize);
-}
-
-OrbStatus FFTInit_R_32f(FFTSpec_R_32f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* planMemory,
-                        void* initBuffer) {
-  return Init(planOut, order, flag, hint, planMemory, initBuffer);
-}
-
-OrbStatus FFTInitAlloc_R_32f(FFTSpec_R_32f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
-  return InitAlloc(planOut, order, flag, hint);
-}
-
-OrbStatus FFTFree_R_32f(FFTSpec_R_32f* plan) { return Free(plan); }
-
-OrbStatus FFTGetBufSize_R_32f(const FFTSpec_R_32f* plan, Orb32s* size) { return GetBufSize(plan, size); }
-
-OrbStatus FFTGetSize_C_64fc(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
-                            Orb32s* workSize) {
-  return GetSize<FFTSpec_C_64fc>(order, flag, planSize, initSize, workSize);
-}
-
-OrbStatus FFTInit_C_64fc(FFTSpec_C_64fc** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint,
-                         void* planMemory, void* initBuffer) {
-  return Init(planOut, order, flag, hint, planMemory, initBuffer);
-}
-
-OrbStatus FFTInitAlloc_C_64fc(FFTSpec_C_64fc** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
-  return InitAlloc(planOut, order, flag, hint);
-}
-
-OrbStatus FFTFree_C_64fc(FFTSpec_C_64fc* plan) { return Free(plan); }
-
-OrbStatus FFTGetBufSize_C_64fc(const FFTSpec_C_64fc* plan, Orb32s* size) { return GetBufSize(plan, size); }
-
-OrbStatus FFTGetSize_C_64f(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
-                           Orb32s* workSize) {
-  return GetSize<FFTSpec_C_64f>(order, flag, planSize, initSize, workSize);
-}
-
-OrbStatus FFTInit_C_64f(FFTSpec_C_64f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* planMemory,
-                        void* initBuffer) {
-  return Init(planOut, order, flag, hint, planMemory, initBuffer);
-}
-
-OrbStatus FFTInitAlloc_C_64f(FFTSpec_C_64f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
-  return InitAlloc(planOut, order, flag, hint);
-}
-
-OrbStatus FFTFree_C_64f(FFTSpec_C_64f* plan) { return Free(plan); }
-
-OrbStatus FFTGetBufSize_C_64f(const FFTSpec_C_64f* plan, Orb32s* size) { return GetBufSize(plan, size); }
-
-OrbStatus FFTGetSize_R_64f(Orb32s order, Orb32s flag, OrbAlgHint, Orb32s* planSize, Orb32s* initSize,
-                           Orb32s* workSize) {
-  return GetSize<FFTSpec_R_64f>(order, flag, planSize, initSize, workSize);
-}
-
-OrbStatus FFTInit_R_64f(FFTSpec_R_64f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* planMemory,
-                        void* initBuffer) {
-  return Init(planOut, order, flag, hint, planMemory, initBuffer);
-}
-
-OrbStatus FFTInitAlloc_R_64f(FFTSpec_R_64f** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
-  return InitAlloc(planOut, order, flag, hint);
-}
-
-OrbStatus FFTFree_R_64f(FFTSpec_R_64f* plan) { return Free(plan); }
-
-OrbStatus FFTGetBufSize_R_64f(const FFTSpec_R_64f* plan, Orb32s* size) { return GetBufSize(plan, size); }
-
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform

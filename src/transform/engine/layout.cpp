@@ -1,13 +1,13 @@
 #include "transform/engine/layout.h"
 
 #include "transform/engine/px/core.h"
-#include "transform/engine/tables.h"
+#include "transform/engine/tables/tables.h"
 #include "transform/tuning.h"
 #if ORBS_VECTOR
 #include "transform/engine/vector/transform.h"
 #endif
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 namespace {
 
 #if ORBS_VECTOR
@@ -22,7 +22,7 @@ void DescribeOnePass(int order, FftForm form, FftLayout<T>* layout) {
 
 template <class T>
 void DescribeComplexTables(int order, FftForm form, FftLayout<T>* layout) {
-  if (order <= Pick<T>(kFftTuning.onePassCeiling)) {
+  if (ChooseEngine<T>(order) == FftEngine::onePass) {
     DescribeOnePass(order, form, layout);
   } else {
     DescribeVectorLarge(order, form, layout);
@@ -74,14 +74,14 @@ template <class T>
 FftLayout<T> Describe(FftForm form, int order) {
   FftLayout<T> layout;
   const bool real = form == FftForm::real;
-  if (order <= (real ? Pick<T>(kFftTuning.realCodeletCeiling) : kFftTuning.codeletCeiling)) return layout;
+  if (real ? IsRealCodelet<T>(order) : ChooseEngine<T>(order) == FftEngine::codelet) return layout;
   layout.plan = BlockLayout(sizeof(FftPlan<T>), 64);
   if (order > kSinQuarterOrder) layout.init.template Add<T>(SineEntries(order), 64);
   if (!real) {
     DescribeComplexTables(order, form, &layout);
     return layout;
   }
-  if (order > kFftTuning.halfCodeletCeiling) DescribeComplexTables(order - 1, form, &layout);
+  if (ChooseEngine<T>(order - 1) != FftEngine::codelet) DescribeComplexTables(order - 1, form, &layout);
   layout.tables.realFwdTw = layout.plan.template Add<T>(RealReals<T>(order), 64);
   layout.tables.realInvTw = layout.plan.template Add<T>(RealReals<T>(order), 64);
   return layout;
@@ -98,4 +98,4 @@ FftLayout<Orb64f> DescribeFft(FftForm form, int order) {
   return Describe<Orb64f>(form, order);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform

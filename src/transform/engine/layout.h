@@ -7,7 +7,7 @@
 #include "core/variant.h"
 #include "transform/engine/plan.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 template <class T>
 struct FftLayout {
@@ -28,6 +28,6 @@ struct FftLayout {
 template <class T>
 FftLayout<T> DescribeFft(FftForm form, int order);
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

@@ -6,7 +6,7 @@
 #include "core/variant.h"
 #include "orbs90lgc/types.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // The row and column scheme nests at most two deep; there is room for three.
 inline constexpr int kFftLevels = 3;
@@ -44,23 +44,23 @@ ORBS_INLINE bool IsFftFlag(Orb32s flag) {
   return flag == FftScaleFwdByN || flag == FftScaleInvByN || flag == FftScaleBySqrtN || flag == FftScaleNone;
 }
 
+// Complex as pairs, complex as two arrays, real.
 enum class FftForm { interleaved, split, real };
 
-template <class T, FftForm form, Orb32s id>
-struct FftPlanOf : FftPlan<T> {
+template <class T, FftForm form>
+struct FftSpec : FftPlan<T> {
   using Real = T;
   static constexpr FftForm kForm = form;
-  static constexpr Orb32s kId = id;
+  static constexpr Orb32s kId = (sizeof(T) == 4 ? 4 : 7) + static_cast<Orb32s>(form);
 };
-
-struct FFTSpec_C_32fc : FftPlanOf<Orb32f, FftForm::interleaved, 4> {};
-struct FFTSpec_C_32f : FftPlanOf<Orb32f, FftForm::split, 5> {};
-struct FFTSpec_R_32f : FftPlanOf<Orb32f, FftForm::real, 6> {};
-struct FFTSpec_C_64fc : FftPlanOf<Orb64f, FftForm::interleaved, 7> {};
-struct FFTSpec_C_64f : FftPlanOf<Orb64f, FftForm::split, 8> {};
-struct FFTSpec_R_64f : FftPlanOf<Orb64f, FftForm::real, 9> {};
+using FFTSpec_C_32fc = FftSpec<Orb32f, FftForm::interleaved>;
+using FFTSpec_C_32f = FftSpec<Orb32f, FftForm::split>;
+using FFTSpec_R_32f = FftSpec<Orb32f, FftForm::real>;
+using FFTSpec_C_64fc = FftSpec<Orb64f, FftForm::interleaved>;
+using FFTSpec_C_64f = FftSpec<Orb64f, FftForm::split>;
+using FFTSpec_R_64f = FftSpec<Orb64f, FftForm::real>;
 static_assert(sizeof(FFTSpec_R_32f) == 88 && sizeof(FFTSpec_R_64f) == 96, "sizes are interface");
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

@@ -1,13 +1,13 @@
 // The real transforms: N reals as N/2 complex points, the real split, and the three layouts of the spectrum.
 #include "core/checks.h"
-#include "transform/fft.h"
-#include "transform/engine/px/codelets.h"
-#include "transform/engine/engine.h"
-#include "transform/engine/px/real_split.h"
-#include "transform/spectrum/layouts.h"
 #include "core/work_buffer.h"
+#include "transform/engine/by_tables.h"
+#include "transform/engine/codelets.h"
+#include "transform/engine/real_split.h"
+#include "transform/fft.h"
+#include "transform/spectrum/layouts.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 namespace {
 
 // ---- Transforms ----
@@ -15,24 +15,17 @@ namespace {
 // The complex transform of N/2 points on the pairs of a real array.
 template <bool kForward, class T>
 ORBS_INLINE void TransformHalf(const FftPlan<T>& plan, const T* src, T* dst, void* work) {
-  if (plan.order <= kFftTuning.halfCodeletCeiling) {
-    using Codelets = ComplexCodelets<kForward, Interleaved, T>;
-    const bool scaled = (kForward ? plan.scaleFwd : plan.scaleInv) != 0;
-    (scaled ? Codelets::scaled : Codelets::plain)[plan.order - 1]({src}, {dst}, plan.scale);
+  const int order = plan.order - 1;
+  if (ChooseEngine<T>(order) == FftEngine::codelet) {
+    RunCodelet<kForward, Interleaved, T>(plan, order, {src}, {dst});
   } else {
-    TransformByTables<kForward, Interleaved, T>(plan, plan.order - 1, {src}, {dst}, work);
+    TransformByTables<kForward, Interleaved, T>(plan, order, {src}, {dst}, work);
   }
-}
-
-// Needs no work buffer, and has none of the tables.
-template <class T>
-ORBS_INLINE bool IsRealCodelet(const FftPlan<T>& plan) {
-  return plan.order <= Pick<T>(kFftTuning.realCodeletCeiling);
 }
 
 template <SpectrumLayout layout, class T>
 OrbStatus ForwardTo(const FftPlan<T>& plan, const T* src, T* dst, void* work) {
-  if (IsRealCodelet(plan)) {
+  if (IsRealCodelet<T>(plan.order)) {
     using Codelets = RealCodelets<true, T>;
     (plan.scaleFwd != 0 ? Codelets::scaled : Codelets::plain)[plan.order](src, dst, plan.scale);
     ArrangeFromPerm<layout>(dst, Index{1} << plan.order);
@@ -47,7 +40,7 @@ OrbStatus ForwardTo(const FftPlan<T>& plan, const T* src, T* dst, void* work) {
 
 template <SpectrumLayout layout, class T>
 OrbStatus InverseFrom(const FftPlan<T>& plan, const T* src, T* dst, void* work) {
-  if (IsRealCodelet(plan)) {
+  if (IsRealCodelet<T>(plan.order)) {
     const T* perm = src;
     if constexpr (layout != SpectrumLayout::perm) {
       ArrangeToPerm<layout>(src, dst, Index{1} << plan.order);
@@ -64,62 +57,31 @@ OrbStatus InverseFrom(const FftPlan<T>& plan, const T* src, T* dst, void* work) 
   return StatusOk;
 }
 
-template <SpectrumLayout layout, class Plan, class T>
-ORBS_INLINE OrbStatus Forward(const T* src, T* dst, const Plan* plan, void* work) {
+}  // namespace
+
+template <class T>
+template <SpectrumLayout layout>
+OrbStatus Fft<T, FftForm::real>::Forward(const T* src, T* dst, const Plan* plan, void* work) {
   ORBS_RETURN_IF_BAD(CheckPlan(plan, Plan::kId, src, dst));
   return ForwardTo<layout, T>(*plan, src, dst, work);
 }
 
-template <SpectrumLayout layout, class Plan, class T>
-ORBS_INLINE OrbStatus Inverse(const T* src, T* dst, const Plan* plan, void* work) {
+template <class T>
+template <SpectrumLayout layout>
+OrbStatus Fft<T, FftForm::real>::Inverse(const T* src, T* dst, const Plan* plan, void* work) {
   ORBS_RETURN_IF_BAD(CheckPlan(plan, Plan::kId, src, dst));
   return InverseFrom<layout, T>(*plan, src, dst, work);
 }
 
-}  // namespace
+#define ORBS_INSTANTIATE(T, layout)                                                            \
+  template OrbStatus Fft<T, FftForm::real>::Forward<layout>(const T*, T*, const Plan*, void*); \
+  template OrbStatus Fft<T, FftForm::real>::Inverse<layout>(const T*, T*, const Plan*, void*);
+ORBS_INSTANTIATE(Orb32f, SpectrumLayout::perm)
+ORBS_INSTANTIATE(Orb32f, SpectrumLayout::pack)
+ORBS_INSTANTIATE(Orb32f, SpectrumLayout::ccs)
+ORBS_INSTANTIATE(Orb64f, SpectrumLayout::perm)
+ORBS_INSTANTIATE(Orb64f, SpectrumLayout::pack)
+ORBS_INSTANTIATE(Orb64f, SpectrumLayout::ccs)
+#undef ORBS_INSTANTIATE
 
-OrbStatus FFTFwd_RToPerm_32f(const Orb32f* src, Orb32f* dst, const FFTSpec_R_32f* plan, void* work) {
-  return Forward<SpectrumLayout::perm>(src, dst, plan, work);
-}
-
-OrbStatus FFTFwd_RToPack_32f(const Orb32f* src, Orb32f* dst, const FFTSpec_R_32f* plan, void* work) {
-  return Forward<SpectrumLayout::pack>(src, dst, plan, work);
-}
-
-OrbStatus FFTFwd_RToCCS_32f(const Orb32f* src, Orb32f* dst, const FFTSpec_R_32f* plan, void* work) {
-  return Forward<SpectrumLayout::ccs>(src, dst, plan, work);
-}
-
-OrbStatus FFTFwd_RToPerm_64f(const Orb64f* src, Orb64f* dst, const FFTSpec_R_64f* plan, void* work) {
-  return Forward<SpectrumLayout::perm>(src, dst, plan, work);
-}
-
-OrbStatus FFTFwd_RToPack_64f(const Orb64f* src, Orb64f* dst, const FFTSpec_R_64f* plan, void* work) {
-  return Forward<SpectrumLayout::pack>(src, dst, plan, work);
-}
-
-OrbStatus FFTInv_PermToR_32f(const Orb32f* src, Orb32f* dst, const FFTSpec_R_32f* plan, void* work) {
-  return Inverse<SpectrumLayout::perm>(src, dst, plan, work);
-}
-
-OrbStatus FFTInv_PackToR_32f(const Orb32f* src, Orb32f* dst, const FFTSpec_R_32f* plan, void* work) {
-  return Inverse<SpectrumLayout::pack>(src, dst, plan, work);
-}
-
-OrbStatus FFTInv_CCSToR_32f(const Orb32f* src, Orb32f* dst, const FFTSpec_R_32f* plan, void* work) {
-  return Inverse<SpectrumLayout::ccs>(src, dst, plan, work);
-}
-
-OrbStatus FFTInv_PermToR_64f(const Orb64f* src, Orb64f* dst, const FFTSpec_R_64f* plan, void* work) {
-  return Inverse<SpectrumLayout::perm>(src, dst, plan, work);
-}
-
-OrbStatus FFTInv_PackToR_64f(const Orb64f* src, Orb64f* dst, const FFTSpec_R_64f* plan, void* work) {
-  return Inverse<SpectrumLayout::pack>(src, dst, plan, work);
-}
-
-OrbStatus FFTInv_CCSToR_64f(const Orb64f* src, Orb64f* dst, const FFTSpec_R_64f* plan, void* work) {
-  return Inverse<SpectrumLayout::ccs>(src, dst, plan, work);
-}
-
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform

@@ -11,7 +11,7 @@
 #include "core/variant.h"
 #include "transform/engine/data.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // `entry` is 0.5 cos a, 0.5 - 0.5 sin a: the halves are in it.
 template <class T>
@@ -52,6 +52,6 @@ ORBS_INLINE void RealPairInverse(Value<T>* xk, Value<T>* xm, Value<T> entry) {
   *xm = {p - t, u - q};
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

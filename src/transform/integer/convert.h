@@ -2,11 +2,11 @@
 #ifndef ORBS_TRANSFORM_INTEGER_CONVERT_H
 #define ORBS_TRANSFORM_INTEGER_CONVERT_H
 
-#include "toolkit/toolkit.h"
 #include "core/variant.h"
+#include "toolkit/toolkit.h"
 #include "transform/engine/data.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 ORBS_INLINE void Widen(const Orb16s* src, Orb32f* dst, Orb32s n) { VecConvert_16s32f(src, dst, n); }
 ORBS_INLINE void Widen(const Orb32s* src, Orb32f* dst, Orb32s n) { VecConvert_32s32f(src, dst, n); }
@@ -37,6 +37,6 @@ ORBS_INLINE void CopyScaled(const Orb16s (&src)[kCount], Orb16s* dst, Orb32s sca
   VecConvert_32s16s_Sfs(wide, dst, kCount, scaleFactor);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

@@ -3,12 +3,12 @@
 #ifndef ORBS_TRANSFORM_INTEGER_DATA_H
 #define ORBS_TRANSFORM_INTEGER_DATA_H
 
-#include "simd/round_scaled.h"
 #include "core/scaling.h"
+#include "simd/round_scaled.h"
 #include "simd/simd.h"
 #include "transform/engine/data.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // Sources, read as numbers of T.
 template <class T, class Int>
@@ -67,6 +67,6 @@ ORBS_INLINE void StorePoints(RoundedParts<T, Int> data, size_t i, VectorOf<T> v)
   StoreSaturatedPairs(data.re + i, data.im + i, Times<T>(v, data.factor));
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

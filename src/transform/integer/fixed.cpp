@@ -2,12 +2,12 @@
 // variants.
 #include "transform/integer/fixed.h"
 
-#include "transform/engine/px/bit_reversal.h"
+#include "transform/engine/tables/bit_reversal.h"
 #if ORBS_VECTOR
 #include "transform/integer/fixed_vector.h"
 #endif
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 #if ORBS_VECTOR
 
@@ -147,4 +147,4 @@ void FftFixedSplitInv_32s(Orb32sc* z, Index n, const Orb16s* table) {
   middle = {AddWrap(middle.re, middle.re), NegWrap(AddWrap(middle.im, middle.im))};
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform

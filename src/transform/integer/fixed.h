@@ -10,7 +10,7 @@
 #include "orbs90lgc/types.h"
 #include "transform/engine/data.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // One step of a twiddle table: cos, sin, -sin, cos of 2 pi k / n, 1.0 being 16384. Each part of a complex
 // product is then a dot product of the number with a pair of the step.
@@ -66,6 +66,6 @@ void FftFixedInv_32sc(Orb32sc* x, Orb32s order, const Orb16s* twiddles, const Or
 void FftFixedSplitFwd_32s(Orb32sc* z, Index n, const Orb16s* table);
 void FftFixedSplitInv_32s(Orb32sc* z, Index n, const Orb16s* table);
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

@@ -7,7 +7,7 @@
 #include "simd/simd.h"
 #include "transform/integer/fixed.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // ---- Two complex numbers a vector ----
 
@@ -135,6 +135,6 @@ ORBS_INLINE void TransformFixedVector(Orb32s* x, Orb32s order) {
   }
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

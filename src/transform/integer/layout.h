@@ -6,12 +6,12 @@
 #include "core/checks.h"
 #include "core/memory.h"
 #include "core/record.h"
-#include "transform/engine/px/bit_reversal.h"
+#include "transform/engine/tables/bit_reversal.h"
+#include "transform/engine/tables/tables.h"
 #include "transform/integer/fixed.h"
 #include "transform/integer/plan.h"
-#include "transform/engine/tables.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 enum class IntegerFftPath {
   kCopy,   // order 0 of the 16-bit plans
@@ -30,35 +30,17 @@ IntegerFftPath ChoosePath(Orb32s order, OrbAlgHint hint) {
 struct IntegerFftLayout {
   BlockLayout plan{0, 64};
   int64_t initBytes = 0;
-  bool looksAtInit = false;  // the 16-bit plans demand an init buffer that the nested plan may not need
-  int64_t workBytes = 0;     // what FFTGetBufSize_* tells
+  bool needsInit = false;  // the 16-bit plans demand an init buffer that the nested plan may not need
+  int64_t workBytes = 0;   // what FFTGetBufSize_* tells
   FixedTables tables{};
   Offset<void> floatPlan{};
 
   // What a caller has to give, with 64 bytes for the alignment of his memory.
   int64_t PlanBytes() const { return plan.Bytes() + kBlockAlignment; }
-  int64_t InitBytes() const { return looksAtInit ? initBytes + kBlockAlignment : 0; }
+  int64_t InitBytes() const { return needsInit ? initBytes + kBlockAlignment : 0; }
 
   bool Fits() const { return PlanBytes() <= INT32_MAX && InitBytes() <= INT32_MAX && workBytes <= INT32_MAX; }
 };
-
-// The three calls of the nested plans by their type.
-template <class Nested>
-struct NestedFft;
-#define ORBS_NESTED_FFT(T)                                \
-  template <>                                             \
-  struct NestedFft<FFTSpec_##T> {                         \
-    static constexpr auto getSize = FFTGetSize_##T;       \
-    static constexpr auto init = FFTInit_##T;             \
-    static constexpr auto getBufSize = FFTGetBufSize_##T; \
-  };
-ORBS_NESTED_FFT(C_32fc)
-ORBS_NESTED_FFT(C_32f)
-ORBS_NESTED_FFT(R_32f)
-ORBS_NESTED_FFT(C_64fc)
-ORBS_NESTED_FFT(C_64f)
-ORBS_NESTED_FFT(R_64f)
-#undef ORBS_NESTED_FFT
 
 template <class Spec>
 void DescribeFixed(Orb32s order, IntegerFftLayout* layout) {
@@ -67,7 +49,7 @@ void DescribeFixed(Orb32s order, IntegerFftLayout* layout) {
   layout->tables.bitRev = layout->plan.template Add<Orb32s>(BitRevEntries(complexOrder), 64);
   layout->tables.twiddles = layout->plan.template Add<Orb16s>(FixedTwiddleReals(complexOrder), 64);
   if (real) layout->tables.realTw = layout->plan.template Add<Orb16s>(FixedTwiddleReals(order), 64);
-  layout->looksAtInit = true;
+  layout->needsInit = true;
   layout->initBytes = RoundUp(FixedSineEntries(order) * static_cast<int64_t>(sizeof(Orb16s)), 64);
   // The split 16-bit data also pass through their interleaved form.
   const bool split = std::is_same_v<Spec, FFTSpec_C_16s>;
@@ -81,10 +63,10 @@ OrbStatus DescribeFloat(Orb32s order, IntegerFftLayout* layout) {
   Orb32s planSize;
   Orb32s initSize;
   Orb32s workSize;
-  ORBS_RETURN_IF_BAD(NestedFft<typename Kind::Nested>::getSize(order, FftScaleNone, HintNone, &planSize,
-                                                               &initSize, &workSize));
+  ORBS_RETURN_IF_BAD(
+      FftOf<typename Kind::Nested>::GetSize(order, FftScaleNone, HintNone, &planSize, &initSize, &workSize));
   layout->floatPlan = {layout->plan.template Add<unsigned char>(planSize, 1).bytes};
-  layout->looksAtInit = Kind::kHasFixedPath || initSize > 0;
+  layout->needsInit = Kind::kHasFixedPath || initSize > 0;
   layout->initBytes = initSize;
   layout->workBytes = int64_t{workSize} + Kind::DataBytes(order) + kBlockAlignment;
   return StatusOk;
@@ -108,6 +90,6 @@ OrbStatus DescribeIntegerFft(Orb32s order, OrbAlgHint hint, IntegerFftLayout* la
   }
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

@@ -12,7 +12,7 @@
 #include "transform/fft.h"
 #include "transform/tuning.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // Where the tables of the fixed-point path stand, from the record on.
 struct FixedTables {
@@ -100,6 +100,6 @@ ORBS_INLINE const typename IntegerFft<Spec>::Nested* NestedPlan(const Spec* plan
   return static_cast<const typename IntegerFft<Spec>::Nested*>(AsRecord(plan).floatPlan.In(plan));
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

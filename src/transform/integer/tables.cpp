@@ -1,9 +1,9 @@
 // The tables of the fixed-point transform.
-#include "transform/engine/circle.h"
+#include "transform/engine/tables/circle.h"
+#include "transform/engine/tables/sine.h"
 #include "transform/integer/fixed.h"
-#include "transform/engine/sine.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 namespace {
 
 struct FixedSines {
@@ -54,4 +54,4 @@ void BuildFixedTwiddles(Orb32s order, const Orb16s* quarter, Orb32s sineOrder, O
   }
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform

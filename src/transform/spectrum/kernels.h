@@ -13,7 +13,7 @@
 #include "simd/simd.h"
 #endif
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // SpreadPairs: `pairs` holds X[1] to X[(n-1)/2]. X[k] goes to dst[k] of the full spectrum of n complex
 // numbers, given as an array of its parts, and its conjugate to dst[n-k]. Without kWritesLower the X[k] stand
@@ -165,6 +165,6 @@ inline void MulSpectrumPairs(const Orb16s* a, const Orb16s* b, Orb16s* dst, size
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

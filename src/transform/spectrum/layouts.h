@@ -7,9 +7,7 @@
 #include "core/variant.h"
 #include "transform/engine/data.h"
 
-namespace orbs::ORBS_VARIANT {
-
-enum class SpectrumLayout { perm, pack, ccs };
+namespace orbs::ORBS_VARIANT::transform {
 
 // Where the pairs of the points 1 to n/2 - 1 begin.
 template <SpectrumLayout layout>
@@ -80,6 +78,6 @@ ORBS_INLINE void ArrangeToPerm(const T* src, T* dst, Index n) {
   dst[1] = last;
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

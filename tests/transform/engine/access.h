@@ -35,7 +35,7 @@ struct FftAccess {
   FftPlanAccess plan[kFftKinds];
   OneArray pairs[2][2];
   TwoArrays split[2][2];
-  OneArray toSpectrum[kSpectrumLayouts][2];  // no 64f CCS
+  OneArray toSpectrum[kSpectrumLayouts][2];
   OneArray fromSpectrum[kSpectrumLayouts][2];
   const Orb32f* sinQuarter32f;
   const Orb64f* sinQuarter64f;

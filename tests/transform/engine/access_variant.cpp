@@ -1,7 +1,7 @@
 // Compiled once per variant.
 #include "tests/transform/engine/access.h"
+#include "transform/engine/tables/sine.h"
 #include "transform/fft.h"
-#include "transform/engine/sine.h"
 
 namespace orbs::ORBS_VARIANT {
 
@@ -9,70 +9,89 @@ extern const test::FftAccess kAccess;
 
 namespace {
 
-// The plan operations with untyped plans.
-template <class Plan, OrbStatus (*init)(Plan**, Orb32s, Orb32s, OrbAlgHint, void*, void*)>
-OrbStatus Init(void** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* memory, void* buffer) {
-  if (planOut == nullptr) return init(nullptr, order, flag, hint, memory, buffer);
-  auto* plan = static_cast<Plan*>(*planOut);
-  const OrbStatus status = init(&plan, order, flag, hint, memory, buffer);
-  *planOut = plan;
-  return status;
-}
-template <class Plan, OrbStatus (*initAlloc)(Plan**, Orb32s, Orb32s, OrbAlgHint)>
-OrbStatus InitAlloc(void** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
-  if (planOut == nullptr) return initAlloc(nullptr, order, flag, hint);
-  auto* plan = static_cast<Plan*>(*planOut);
-  const OrbStatus status = initAlloc(&plan, order, flag, hint);
-  *planOut = plan;
-  return status;
-}
-template <class Plan, OrbStatus (*free)(Plan*)>
-OrbStatus Free(void* plan) {
-  return free(static_cast<Plan*>(plan));
-}
-template <class Plan, OrbStatus (*getBufSize)(const Plan*, Orb32s*)>
-OrbStatus GetBufSize(const void* plan, Orb32s* size) {
-  return getBufSize(static_cast<const Plan*>(plan), size);
-}
+using transform::Fft;
+using transform::FftForm;
+using transform::SpectrumLayout;
 
-template <class Element, class Plan, OrbStatus (*transform)(const Element*, Element*, const Plan*, void*)>
-OrbStatus One(const void* src, void* dst, const void* plan, void* work) {
-  return transform(static_cast<const Element*>(src), static_cast<Element*>(dst),
-                   static_cast<const Plan*>(plan), work);
-}
-template <class T, class Plan, OrbStatus (*transform)(const T*, const T*, T*, T*, const Plan*, void*)>
-OrbStatus Two(const void* srcRe, const void* srcIm, void* dstRe, void* dstIm, const void* plan, void* work) {
-  return transform(static_cast<const T*>(srcRe), static_cast<const T*>(srcIm), static_cast<T*>(dstRe),
-                   static_cast<T*>(dstIm), static_cast<const Plan*>(plan), work);
-}
+// The operations of a kind of plan, with untyped plans.
+template <class Kind>
+struct Untyped {
+  using Plan = typename Kind::Plan;
 
-#define ORBS_PLAN(kind)                                                                                      \
-  {                                                                                                          \
-    FFTGetSize_##kind, Init<FFTSpec_##kind, FFTInit_##kind>, InitAlloc<FFTSpec_##kind, FFTInitAlloc_##kind>, \
-        Free<FFTSpec_##kind, FFTFree_##kind>, GetBufSize<FFTSpec_##kind, FFTGetBufSize_##kind>               \
+  static OrbStatus Init(void** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint, void* memory,
+                        void* buffer) {
+    if (planOut == nullptr) return Kind::Init(nullptr, order, flag, hint, memory, buffer);
+    auto* plan = static_cast<Plan*>(*planOut);
+    const OrbStatus status = Kind::Init(&plan, order, flag, hint, memory, buffer);
+    *planOut = plan;
+    return status;
   }
-#define ORBS_PAIRS(direction) \
-  { One<Orb32fc, FFTSpec_C_32fc, direction##_32fc>, One<Orb64fc, FFTSpec_C_64fc, direction##_64fc> }
-#define ORBS_SPLIT(direction) \
-  { Two<Orb32f, FFTSpec_C_32f, direction##_32f>, Two<Orb64f, FFTSpec_C_64f, direction##_64f> }
-#define ORBS_REAL(transform) \
-  { One<Orb32f, FFTSpec_R_32f, transform##_32f>, One<Orb64f, FFTSpec_R_64f, transform##_64f> }
+  static OrbStatus InitAlloc(void** planOut, Orb32s order, Orb32s flag, OrbAlgHint hint) {
+    if (planOut == nullptr) return Kind::InitAlloc(nullptr, order, flag, hint);
+    auto* plan = static_cast<Plan*>(*planOut);
+    const OrbStatus status = Kind::InitAlloc(&plan, order, flag, hint);
+    *planOut = plan;
+    return status;
+  }
+  static OrbStatus Free(void* plan) { return Kind::Free(static_cast<Plan*>(plan)); }
+  static OrbStatus GetBufSize(const void* plan, Orb32s* size) {
+    return Kind::GetBufSize(static_cast<const Plan*>(plan), size);
+  }
+};
+
+template <class T, FftForm form>
+constexpr test::FftPlanAccess PlanAccess() {
+  using Kind = Fft<T, form>;
+  using Any = Untyped<Kind>;
+  return {Kind::GetSize, Any::Init, Any::InitAlloc, Any::Free, Any::GetBufSize};
+}
+
+template <class T, bool kForward>
+OrbStatus Pairs(const void* src, void* dst, const void* plan, void* work) {
+  using Kind = Fft<T, FftForm::interleaved>;
+  return Kind::template Transform<kForward>(static_cast<const typename Kind::Point*>(src),
+                                            static_cast<typename Kind::Point*>(dst),
+                                            static_cast<const typename Kind::Plan*>(plan), work);
+}
+template <class T, bool kForward>
+OrbStatus Split(const void* srcRe, const void* srcIm, void* dstRe, void* dstIm, const void* plan,
+                void* work) {
+  using Kind = Fft<T, FftForm::split>;
+  return Kind::template Transform<kForward>(static_cast<const T*>(srcRe), static_cast<const T*>(srcIm),
+                                            static_cast<T*>(dstRe), static_cast<T*>(dstIm),
+                                            static_cast<const typename Kind::Plan*>(plan), work);
+}
+template <class T, bool kForward, SpectrumLayout layout>
+OrbStatus Real(const void* src, void* dst, const void* plan, void* work) {
+  using Kind = Fft<T, FftForm::real>;
+  const auto* typed = static_cast<const typename Kind::Plan*>(plan);
+  return kForward
+             ? Kind::template Forward<layout>(static_cast<const T*>(src), static_cast<T*>(dst), typed, work)
+             : Kind::template Inverse<layout>(static_cast<const T*>(src), static_cast<T*>(dst), typed, work);
+}
+
+#define ORBS_BOTH(function, ...) \
+  { function<Orb32f, __VA_ARGS__>, function<Orb64f, __VA_ARGS__> }
+#define ORBS_LAYOUTS(forward)                                                                       \
+  {                                                                                                 \
+    ORBS_BOTH(Real, forward, SpectrumLayout::perm), ORBS_BOTH(Real, forward, SpectrumLayout::pack), \
+        ORBS_BOTH(Real, forward, SpectrumLayout::ccs)                                               \
+  }
 
 }  // namespace
 
 const test::FftAccess kAccess = {
-    {ORBS_PLAN(C_32fc), ORBS_PLAN(C_32f), ORBS_PLAN(R_32f), ORBS_PLAN(C_64fc), ORBS_PLAN(C_64f),
-     ORBS_PLAN(R_64f)},
-    {ORBS_PAIRS(FFTFwd_CToC), ORBS_PAIRS(FFTInv_CToC)},
-    {ORBS_SPLIT(FFTFwd_CToC), ORBS_SPLIT(FFTInv_CToC)},
-    {ORBS_REAL(FFTFwd_RToPerm),
-     ORBS_REAL(FFTFwd_RToPack),
-     {One<Orb32f, FFTSpec_R_32f, FFTFwd_RToCCS_32f>, nullptr}},
-    {ORBS_REAL(FFTInv_PermToR), ORBS_REAL(FFTInv_PackToR), ORBS_REAL(FFTInv_CCSToR)},
-    SinQuarter_32f.sines,
-    SinQuarter_64f.sines,
-    BuildSineTable<Orb32f>,
-    BuildSineTable<Orb64f>,
+    {PlanAccess<Orb32f, FftForm::interleaved>(), PlanAccess<Orb32f, FftForm::split>(),
+     PlanAccess<Orb32f, FftForm::real>(), PlanAccess<Orb64f, FftForm::interleaved>(),
+     PlanAccess<Orb64f, FftForm::split>(), PlanAccess<Orb64f, FftForm::real>()},
+    {ORBS_BOTH(Pairs, true), ORBS_BOTH(Pairs, false)},
+    {ORBS_BOTH(Split, true), ORBS_BOTH(Split, false)},
+    ORBS_LAYOUTS(true),
+    ORBS_LAYOUTS(false),
+    transform::SinQuarter_32f.sines,
+    transform::SinQuarter_64f.sines,
+    transform::BuildSineTable<Orb32f>,
+    transform::BuildSineTable<Orb64f>,
 };
 
 }  // namespace orbs::ORBS_VARIANT

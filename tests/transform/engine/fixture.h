@@ -6,11 +6,11 @@
 #include <memory>
 #include <string>
 
-#include "tests/transform/engine/access.h"
-#include "tests/transform/engine/reference.h"
 #include "tests/support/effort.h"
 #include "tests/support/guarded_array.h"
 #include "tests/support/random_data.h"
+#include "tests/transform/engine/access.h"
+#include "tests/transform/engine/reference.h"
 
 namespace orbs::test {
 

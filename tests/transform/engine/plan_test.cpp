@@ -3,9 +3,9 @@
 #include <cmath>
 #include <functional>
 
-#include "tests/transform/engine/fixture.h"
 #include "core/memory.h"
 #include "tests/support/failing_allocator.h"
+#include "tests/transform/engine/fixture.h"
 
 namespace orbs::test {
 namespace {

@@ -6,7 +6,7 @@
 #include "core/variant.h"
 #include "transform/engine/data.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // The largest order that the core takes: its data and table stay in the first-level cache.
 inline constexpr int kCoreOrder = 10;
@@ -91,6 +91,6 @@ void FFTLayers(Data<T> data, int blockOrder, int order, const T* table) {
   }
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

@@ -3,15 +3,15 @@
 #ifndef ORBS_TRANSFORM_ENGINE_PX_LARGE_H
 #define ORBS_TRANSFORM_ENGINE_PX_LARGE_H
 
-#include "toolkit/toolkit.h"
 #include "core/variant.h"
-#include "transform/engine/px/bit_reversal.h"
-#include "transform/engine/px/core.h"
+#include "toolkit/toolkit.h"
 #include "transform/engine/data.h"
 #include "transform/engine/plan.h"
+#include "transform/engine/px/core.h"
+#include "transform/engine/tables/bit_reversal.h"
 #include "transform/tuning.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 inline void ScaleArray(Orb32f scale, Orb32f* x, Index n) { VecMulC_32f_I(scale, x, static_cast<Orb32s>(n)); }
 inline void ScaleArray(Orb64f scale, Orb64f* x, Index n) { VecMulC_64f_I(scale, x, static_cast<Orb32s>(n)); }
@@ -108,6 +108,6 @@ void FFTLarge(const FftPlan<T>& plan, int order, Data<const T> src, Data<T> dst,
   LargeTransform<kForward, Data, T>(plan, scale, work).Run(dst, order);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

@@ -5,10 +5,10 @@
 
 #include "core/unrolled.h"
 #include "core/variant.h"
-#include "transform/engine/circle.h"
 #include "transform/engine/data.h"
+#include "transform/engine/tables/circle.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // Unrolled where the argument need not be a constant: a plain loop in px.
 template <Index count, class Body>
@@ -115,6 +115,6 @@ ORBS_INLINE void StraightTransform(const Value<T>* x, Value<T>* y, ScaleType sca
   }
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

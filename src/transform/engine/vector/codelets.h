@@ -4,7 +4,7 @@
 
 #include "transform/engine/vector/steps.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // sin(2 pi k / 64) for k = 0 to 16.
 inline constexpr double kSine64[17] = {0.0,
@@ -79,6 +79,6 @@ ORBS_INLINE void RunVectorCodelet(Source src, Result dst, T scale) {
   RowPass<Tables::kLastRadix, kForward>(from, dst, Tables::kFirstRadix, tables.twiddles);
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

@@ -16,7 +16,7 @@
 #include "transform/engine/vector/steps.h"
 #include "transform/tuning.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // The order of the rows: what is left when the long passes take three levels each.
 template <class T>
@@ -176,6 +176,6 @@ void RunLargeTransform(const FftPlan<T>& plan, int order, Source src, Data middl
                           AllLongTableReals<T>(order));
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

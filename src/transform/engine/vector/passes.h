@@ -17,7 +17,7 @@
 #include "simd/simd.h"
 #include "transform/engine/data.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // Pairs in a vector of T.
 template <class T>
@@ -271,6 +271,6 @@ ORBS_INLINE void Pass(Data data, size_t n, size_t q, const T* twiddles) {
   }
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

@@ -11,11 +11,11 @@
 #define ORBS_TRANSFORM_ENGINE_VECTOR_REAL_SPLIT_H
 
 #include "transform/engine/data.h"
-#include "transform/engine/tables.h"
+#include "transform/engine/tables/tables.h"
 #include "transform/engine/vector/passes.h"
 #include "transform/spectrum/layouts.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 template <class V>
 struct PairOfVectors {
@@ -128,6 +128,6 @@ void FFTRealSplitInv(const T* src, T* dst, int order, const T* table) {
   dst[1] = ends.first - ends.last;
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

@@ -4,7 +4,7 @@
 
 #include "transform/engine/vector/passes.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // A further pass: kinds 4 and 8 are its radix.
 template <class T>
@@ -97,6 +97,6 @@ ORBS_INLINE void RunTransform(const PassSteps<T>& plan, const Orb32s* reversal, 
   }
 }
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif

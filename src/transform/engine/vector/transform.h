@@ -14,9 +14,9 @@
 #include "transform/engine/data.h"
 #include "transform/engine/layout.h"
 #include "transform/engine/plan.h"
-#include "transform/engine/sine.h"
+#include "transform/engine/tables/sine.h"
 
-namespace orbs::ORBS_VARIANT {
+namespace orbs::ORBS_VARIANT::transform {
 
 // The transform of 2^order complex points, natural order in and out. `order` is the plan's own, or one less
 // for a real plan. dst may be src (each array of a split pair by itself); neither needs to be aligned. All
@@ -39,7 +39,7 @@ void DescribeVectorLarge(int order, FftForm form, FftLayout<T>* layout);
 template <class T>
 void BuildVectorLarge(int order, SineTable<T> sine, const FftLayout<T>& layout, FftPlan<T>* plan, void* init);
 
-}  // namespace orbs::ORBS_VARIANT
+}  // namespace orbs::ORBS_VARIANT::transform
 
 #endif
 #endif
