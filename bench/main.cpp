@@ -88,7 +88,8 @@ int Run(const char* program, const Options& options) {
   const std::string variant = options.variant.empty() ? selected : options.variant;
   const int index = orbs::test::VariantIndex(variant);
   if (index < 0) return Fail("no variant '" + variant + "'");
-  if (!orbs::test::CanRun(static_cast<orbs::Variant>(index))) return Fail("this processor cannot run " + variant);
+  if (!orbs::test::CanRun(static_cast<orbs::Variant>(index)))
+    return Fail("this processor cannot run " + variant);
   if (!DeclareFamilies(index)) return Fail(variant + " is not in this build");
   orbsPinVariant(index);
 

@@ -13,7 +13,7 @@ namespace orbs::ORBS_VARIANT {
 // by what is computed from them, can live in registers. ORBS_UNROLL suffices where the index is used as it
 // is.
 template <class Body, int... i>
-ORBS_INLINE void UnrolledOver(Body body, std::integer_sequence<int, i...>) {
+ORBS_INLINE void UnrolledOver([[maybe_unused]] Body body, std::integer_sequence<int, i...>) {
   (body(std::integral_constant<int, i>{}), ...);
 }
 template <int count, class Body>

@@ -12,6 +12,7 @@
 #ifndef ORBS_IIR_LANE_CASCADE_H
 #define ORBS_IIR_LANE_CASCADE_H
 
+#include "core/unrolled.h"
 #include "iir/number.h"
 #include "simd/lanes.h"
 
@@ -55,7 +56,7 @@ class LaneCascade {
       }
       for (int i = 0; i < 2 && s >= 0; ++i) N::From(d[2 * s + i]).To(AsWork(delay[i]) + lane);
     }
-    ForConstants<5>([&](auto i) {
+    Unrolled<5>([&](auto i) {
       t_[i].re = F32::Load(coefficient[i][0]);
       t_[i].im = F32::Load(coefficient[i][1]);
     });
@@ -63,7 +64,7 @@ class LaneCascade {
     f_ = F32::Load(delay[0]);
     p_ = F32::Load(delay[1]);
     y1_ = y2_ = F32::Zero();
-    ForConstants<kLaneLag>([&](auto i) { waiting_[i] = F32::Zero(); });
+    Unrolled<kLaneLag>([&](auto i) { waiting_[i] = F32::Zero(); });
   }
 
   // In place; `count` is at least kFill.
@@ -147,7 +148,7 @@ class LaneCascade {
       f_ = Select(mask, f, f_);
       p_ = Select(mask, p, p_);
     }
-    ForConstants<kLaneLag - 1>([&](auto i) { waiting_[i] = waiting_[i + 1]; });
+    Unrolled<kLaneLag - 1>([&](auto i) { waiting_[i] = waiting_[i + 1]; });
     waiting_[kLaneLag - 1] = MovedUpAround<kParts>(y1_);
   }
 

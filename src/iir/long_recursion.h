@@ -14,51 +14,16 @@
 
 #include <cstring>
 
+#include "core/unrolled.h"
 #include "iir/layout.h"
 #include "simd/blocks.h"
 #include "simd/lanes.h"
-#include "simd/sliding_products.h"
+#include "simd/product_sum.h"
 #include "toolkit/toolkit.h"
 
 #if ORBS_VECTOR
 
 namespace orbs::ORBS_VARIANT::iir {
-
-// The product of a row and a number; complex ones in two parts, so that the swap is made once a sum.
-template <int kParts>
-struct WideSum;
-template <>
-struct WideSum<1> {
-  F64 a;
-  static ORBS_INLINE WideSum From(F64 start) { return {start}; }
-  ORBS_INLINE void Add(const Orb64f* y, F64 row) { a = MulAdd(F64::All(*y), row, a); }
-  ORBS_INLINE void Add(WideSum other) { a = a + other.a; }
-  template <int element>
-  ORBS_INLINE void AddElement(F64 y, F64 row) {
-    a = MulAdd(AllOf<element>(y), row, a);
-  }
-  ORBS_INLINE F64 Value() const { return a; }
-};
-template <>
-struct WideSum<2> {
-  F64 a;
-  F64 b;
-  static ORBS_INLINE WideSum From(F64 start) { return {start, F64::Zero()}; }
-  ORBS_INLINE void Add(const Orb64f* y, F64 row) {
-    a = MulAdd(F64::All(y[0]), row, a);
-    b = MulAdd(F64::All(y[1]), row, b);
-  }
-  ORBS_INLINE void Add(WideSum other) {
-    a = a + other.a;
-    b = b + other.b;
-  }
-  template <int element>
-  ORBS_INLINE void AddElement(F64 y, F64 row) {
-    a = MulAdd(AllOf<2 * element>(y), row, a);
-    b = MulAdd(AllOf<2 * element + 1>(y), row, b);
-  }
-  ORBS_INLINE F64 Value() const { return AddRotated(a, b); }
-};
 
 // kNear terms, those of the results that stand in vectors, are written out; the order may have more.
 template <int kParts, int kNear>
@@ -99,7 +64,8 @@ class LongRecursion {
   static constexpr int kMostOrders = kIirPiece / 4;
   // Rows that reach from one vector into the next.
   static constexpr int kReach = kElements < kNear ? kElements : kNear;
-  using Sum = WideSum<kParts>;
+  using Sum = ProductSum<F64, kParts>;
+  using Number = Factor<F64, kParts>;
 
   // A complex product uses a row twice.
   ORBS_INLINE F64 Row(Orb32s k, int vector) const {
@@ -117,7 +83,7 @@ class LongRecursion {
     const Orb64f* const row = table + k * kTableRow;
     auto sum = Sum::From(k + kElements < order_ ? F64::Load(row + kElements * kTableRow) : F64::Zero());
     for (Orb32s j = 0; j < kElements && j < order_; ++j) {
-      sum.Add(row + (kElements - 1 - j) * kParts, F64::Load(table + j * kTableRow));
+      sum.Add(Number::Load(row + (kElements - 1 - j) * kParts), F64::Load(table + j * kTableRow));
     }
     sum.Value().Store(rows_ + k * kRoundParts + kLanes);
   }
@@ -126,7 +92,7 @@ class LongRecursion {
   ORBS_INLINE void MakeWithin() {
     Orb64f moved[2 * kLanes] = {};
     Row(0, 0).Store(moved + kLanes);
-    ForConstants<kElements - 1>([&](auto e) { within_[e] = F64::Load(moved + kLanes - (e + 1) * kParts); });
+    Unrolled<kElements - 1>([&](auto e) { within_[e] = F64::Load(moved + kLanes - (e + 1) * kParts); });
   }
 
   // Two vectors, the last elements of which are the results before `now`.
@@ -145,7 +111,7 @@ class LongRecursion {
 
   ORBS_INLINE F64 Within(F64 w) const {
     auto sum = Sum::From(w);
-    ForConstants<kElements - 1>([&](auto e) { sum.template AddElement<e>(w, within_[e]); });
+    Unrolled<kElements - 1>([&](auto e) { sum.Add(Number::template Of<e>(w), within_[e]); });
     return sum.Value();
   }
 
@@ -153,9 +119,9 @@ class LongRecursion {
   template <int k>
   static ORBS_INLINE void AddNear(Past past, Sum* sum, F64 row) {
     if constexpr (k < kElements) {
-      sum->template AddElement<kElements - 1 - k>(past.newer, row);
+      sum->Add(Number::template Of<kElements - 1 - k>(past.newer), row);
     } else {
-      sum->template AddElement<2 * kElements - 1 - k>(past.older, row);
+      sum->Add(Number::template Of<2 * kElements - 1 - k>(past.older), row);
     }
   }
 
@@ -167,12 +133,12 @@ class LongRecursion {
     LoadWiden(w + kLanes, &w1);
     const F64 v0 = Within(w0);
     auto second = Sum::From(Within(w1));
-    ForConstants<kReach>([&](auto k) { second.template AddElement<kElements - 1 - k>(v0, Row(k, 0)); });
+    Unrolled<kReach>([&](auto k) { second.Add(Number::template Of<kElements - 1 - k>(v0), Row(k, 0)); });
     // The past, the oldest results first; two sums for each vector keep the multiply-adders busy.
     Sum sum[2][2] = {{Sum::From(v0), Sum::From(F64::Zero())},
                      {Sum::From(second.Value()), Sum::From(F64::Zero())}};
     const auto add = [&](Orb32s k, int chain) {
-      const Orb64f* const result = now - (k + 1) * kParts;
+      const Number result = Number::Load(now - (k + 1) * kParts);
       sum[0][chain].Add(result, Row(k, 0));
       sum[1][chain].Add(result, Row(k, 1));
     };
@@ -182,14 +148,12 @@ class LongRecursion {
       add(k - 1, 1);
     }
     if (k == kNear) add(k, 0);
-    ForConstants<kNear>([&](auto i) {
+    Unrolled<kNear>([&](auto i) {
       constexpr int near = kNear - 1 - i;
       AddNear<near>(past, &sum[0][near % 2], Row(near, 0));
       AddNear<near>(past, &sum[1][near % 2], Row(near, 1));
     });
-    sum[0][0].Add(sum[0][1]);
-    sum[1][0].Add(sum[1][1]);
-    const Past next = {sum[0][0].Value(), sum[1][0].Value()};
+    const Past next = {(sum[0][0] + sum[0][1]).Value(), (sum[1][0] + sum[1][1]).Value()};
     next.older.Store(now);
     next.newer.Store(now + kLanes);
     StoreNarrow(y, next.older);
@@ -208,7 +172,7 @@ template <int kParts>
 void RunLongRecursion(const Orb64f* table, Orb32s order, Orb32f* y, Orb32s count) {
   constexpr int kRound = LongRecursion<kParts, 1>::kRound;
   if (order >= kRound) return LongRecursion<kParts, kRound>(table, order).Run(y, count);
-  ForConstants<kRound - 1>([&](auto i) {
+  Unrolled<kRound - 1>([&](auto i) {
     if constexpr (i + 1 >= kFirstLongOrder) {
       if (order == i + 1) LongRecursion<kParts, i + 1>(table, order).Run(y, count);
     }

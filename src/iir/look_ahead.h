@@ -17,9 +17,11 @@
 
 #include <cstring>
 
+#include "core/unrolled.h"
 #include "iir/layout.h"
 #include "simd/blocks.h"
 #include "simd/lanes.h"
+#include "simd/product_sum.h"
 
 #if ORBS_VECTOR
 
@@ -28,66 +30,10 @@ namespace orbs::ORBS_VARIANT::iir {
 inline constexpr int kQuarterParts = 4;
 inline constexpr int kVectorParts = F32::kLanes;
 
-// A number in all elements of a vector, and a sum of products with rows. Complex sums are kept in two parts,
-// of re and of im, so that the swap is made once a sum:  sum = a + i b.
 template <int kParts>
-struct Factor;
-template <>
-struct Factor<1> {
-  F32 re;
-  static ORBS_INLINE Factor Load(const Orb32f* p) { return {F32::All(p[0])}; }
-  ORBS_INLINE Factor operator+(Factor f) const { return {re + f.re}; }
-  ORBS_INLINE Factor operator-(Factor f) const { return {re - f.re}; }
-};
-template <>
-struct Factor<2> {
-  F32 re;
-  F32 im;
-  static ORBS_INLINE Factor Load(const Orb32f* p) { return {F32::All(p[0]), F32::All(p[1])}; }
-  ORBS_INLINE Factor operator+(Factor f) const { return {re + f.re, im + f.im}; }
-  ORBS_INLINE Factor operator-(Factor f) const { return {re - f.re, im - f.im}; }
-};
-
-// One element of a vector as a factor: for all its elements, or for those of its own quarter.
-template <int kParts, int element>
-ORBS_INLINE Factor<kParts> FactorOf(F32 a) {
-  if constexpr (kParts == 1) {
-    return {AllOf<element>(a)};
-  } else {
-    return {AllOf<2 * element>(a), AllOf<2 * element + 1>(a)};
-  }
-}
-template <int kParts, int element>
-ORBS_INLINE Factor<kParts> QuarterFactorOf(F32 a) {
-  if constexpr (kParts == 1) {
-    return {AllOfQuarter<element>(a)};
-  } else {
-    return {AllOfQuarter<2 * element>(a), AllOfQuarter<2 * element + 1>(a)};
-  }
-}
-
+using RowFactor = Factor<F32, kParts>;
 template <int kParts>
-struct RowSum;
-template <>
-struct RowSum<1> {
-  F32 a;
-  static ORBS_INLINE RowSum Of(Factor<1> f, F32 row) { return {f.re * row}; }
-  static ORBS_INLINE RowSum From(F32 start) { return {start}; }
-  ORBS_INLINE void Add(Factor<1> f, F32 row) { a = MulAdd(f.re, row, a); }
-  ORBS_INLINE F32 Value() const { return a; }
-};
-template <>
-struct RowSum<2> {
-  F32 a;
-  F32 b;
-  static ORBS_INLINE RowSum Of(Factor<2> f, F32 row) { return {f.re * row, f.im * row}; }
-  static ORBS_INLINE RowSum From(F32 start) { return {start, F32::Zero()}; }
-  ORBS_INLINE void Add(Factor<2> f, F32 row) {
-    a = MulAdd(f.re, row, a);
-    b = MulAdd(f.im, row, b);
-  }
-  ORBS_INLINE F32 Value() const { return AddRotated(a, b); }
-};
+using RowSum = ProductSum<F32, kParts>;
 
 // What turns w into v. kReach rows, as many as the order, reach from the low quarter into the high one.
 template <int kParts, int kReach>
@@ -99,34 +45,31 @@ class Silence {
   ORBS_INLINE explicit Silence(const F32 (&rows)[kReach]) {
     Orb32f moved[kQuarterParts + kVectorParts] = {};
     rows[0].Store(moved + kQuarterParts);
-    ForConstants<kElements - 1>(
+    Unrolled<kElements - 1>(
         [&](auto e) { LoadQuarterToAll(moved + kQuarterParts - (e + 1) * kParts, &within_[e]); });
-#ifdef __AVX__
-    ForConstants<kReach>([&](auto k) { across_[k] = LowQuarterMovedUp(rows[k]); });
-#endif
+    if constexpr (kHasHighQuarter) Unrolled<kReach>([&](auto k) { across_[k] = LowQuarterMovedUp(rows[k]); });
   }
 
   // The first step, and the second.
   ORBS_INLINE F32 Within(F32 w) const {
     auto sum = RowSum<kParts>::From(w);
-    ForConstants<kElements - 1>([&](auto e) { sum.Add(QuarterFactorOf<kParts, e>(w), within_[e]); });
+    Unrolled<kElements - 1>(
+        [&](auto e) { sum.Add(RowFactor<kParts>::template OfQuarter<e>(w), within_[e]); });
     return sum.Value();
   }
   ORBS_INLINE F32 Across(F32 v) const {
-#ifdef __AVX__
+    if constexpr (!kHasHighQuarter) return v;
     auto sum = RowSum<kParts>::From(v);
-    ForConstants<kReach>([&](auto k) { sum.Add(FactorOf<kParts, kElements - 1 - k>(v), across_[k]); });
+    Unrolled<kReach>(
+        [&](auto k) { sum.Add(RowFactor<kParts>::template Of<kElements - 1 - k>(v), across_[k]); });
     return sum.Value();
-#else
-    return v;
-#endif
   }
 
  private:
+  static constexpr bool kHasHighQuarter = kVectorParts > kQuarterParts;
+
   F32 within_[kElements - 1];
-#ifdef __AVX__
-  F32 across_[kReach];
-#endif
+  F32 across_[kHasHighQuarter ? kReach : 1];
 };
 
 // ---- Orders 1 and 2 ----
@@ -175,7 +118,7 @@ class ShortRecursion {
     F32 far[kOrder];
 
     ORBS_INLINE explicit Rows(const Orb32f* table) {
-      ForConstants<kOrder>([&](auto k) {
+      Unrolled<kOrder>([&](auto k) {
         plain[k] = near[k] = F32::Load(table + k * kShortRowParts);
         far[k] = F32::Load(table + k * kShortRowParts + kVectorParts);
       });
@@ -186,20 +129,19 @@ class ShortRecursion {
   };
 
   ORBS_INLINE ShortRecursion(const Orb32f* b, const Rows& rows) : rows_(rows), silence_(rows.MakeSilence()) {
-    ForConstants<kOrder + 1>([&](auto k) { b_[k] = Factor<kParts>::Load(b + k * kParts); });
+    Unrolled<kOrder + 1>([&](auto k) { b_[k] = RowFactor<kParts>::Load(b + k * kParts); });
   }
 
   ORBS_INLINE F32 Numerator(const Orb32f* u) const {
     auto sum = RowSum<kParts>::Of(b_[kOrder], F32::Load(u - kOrder * kParts));
-    ForConstants<kOrder>(
-        [&](auto k) { sum.Add(b_[kOrder - 1 - k], F32::Load(u - (kOrder - 1 - k) * kParts)); });
+    Unrolled<kOrder>([&](auto k) { sum.Add(b_[kOrder - 1 - k], F32::Load(u - (kOrder - 1 - k) * kParts)); });
     return sum.Value();
   }
 
   // y[n-1-k].
   template <int k>
-  ORBS_INLINE Factor<kParts> Past() const {
-    return FactorOf<kParts, kElements - 1 - k>(newest_);
+  ORBS_INLINE RowFactor<kParts> Past() const {
+    return RowFactor<kParts>::template Of<kElements - 1 - k>(newest_);
   }
 
   // A vector whose last elements are the N results before y.
@@ -217,7 +159,7 @@ class ShortRecursion {
       sum.Add(last, rows[0]);
       sum.Add(change, rows[1]);
     } else {
-      ForConstants<kOrder>([&](auto k) { sum.Add(Past<kOrder - 1 - k>(), rows[kOrder - 1 - k]); });
+      Unrolled<kOrder>([&](auto k) { sum.Add(Past<kOrder - 1 - k>(), rows[kOrder - 1 - k]); });
     }
     return sum.Value();
   }
@@ -234,8 +176,9 @@ class ShortRecursion {
   ORBS_INLINE Round Complete(Round round) const {
     const F32 first = silence_.Across(round.first);
     auto second = RowSum<kParts>::From(silence_.Across(round.second));
-    ForConstants<kOrder>(
-        [&](auto k) { second.Add(FactorOf<kParts, kElements - 1 - k>(first), rows_.plain[k]); });
+    Unrolled<kOrder>([&](auto k) {
+      second.Add(RowFactor<kParts>::template Of<kElements - 1 - k>(first), rows_.plain[k]);
+    });
     return {first, second.Value()};
   }
   ORBS_INLINE void Finish(Round round, Orb32f* y) {
@@ -265,7 +208,7 @@ class ShortRecursion {
 
   Rows rows_;
   Silence<kParts, kOrder> silence_;
-  Factor<kParts> b_[kOrder + 1];
+  RowFactor<kParts> b_[kOrder + 1];
   F32 newest_;
 };
 

@@ -15,6 +15,7 @@
 #if ORBS_VECTOR
 #include <algorithm>
 #include <cstring>
+#include <type_traits>
 
 #include "simd/blocks.h"
 #include "simd/simd.h"
@@ -60,17 +61,16 @@ ORBS_INLINE I32 PhaseStep(I32 re, I32 im) {
   return RoundToInt((a | (i & sign)) * F32::All(kStepsPerRadian));
 }
 
-#if defined(__AVX__) && !defined(__AVX2__)
-// The integers of one I16 fill one vector of floats.
-ORBS_INLINE I16 PhaseSteps(N32 re0, N32 re1, N32 im0, N32 im1) {
-  const I32 steps = PhaseStep({re0, re1}, {im0, im1});
-  return PackInLanes(steps.low, steps.high);
+// N is as wide as I16; where I32 is wider, the integers of one I16 fill one vector of floats.
+template <class N, class I = I32>
+ORBS_INLINE I16 PhaseSteps(N re0, N re1, N im0, N im1) {
+  if constexpr (std::is_same_v<N, I>) {
+    return PackInLanes(PhaseStep(re0, im0), PhaseStep(re1, im1));
+  } else {
+    const I steps = PhaseStep(I{re0, re1}, I{im0, im1});
+    return PackInLanes(steps.low, steps.high);
+  }
 }
-#else
-ORBS_INLINE I16 PhaseSteps(N32 re0, N32 re1, N32 im0, N32 im1) {
-  return PackInLanes(PhaseStep(re0, im0), PhaseStep(re1, im1));
-}
-#endif
 
 // p a + q b from the pairs (b, a) and (q, p). -q would not fit where q is -32768, ~q = -q - 1 does:
 // p b + ~q a + a.

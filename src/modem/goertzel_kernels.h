@@ -21,6 +21,7 @@
 #if ORBS_VECTOR
 #include "core/unrolled.h"
 #include "simd/blocks.h"
+#include "simd/load.h"
 #include "simd/simd.h"
 #endif
 
@@ -52,13 +53,6 @@ ORBS_INLINE FourierSum Advance(FourierSum z, Rotation r, FourierSum x) {
 // ---- X(f) ----
 
 #if ORBS_VECTOR
-
-ORBS_INLINE F32 LoadFloats(const Orb32f* p) { return F32::Load(p); }
-ORBS_INLINE F32 LoadFloats(const Orb16s* p) {
-  I32 x;
-  LoadWiden(p, &x);
-  return ToFloat(x);
-}
 
 // Partial sums of a real signal: their real and their imaginary parts.
 struct RealSums {
@@ -186,13 +180,13 @@ void SumFourierBlock(const Sample* src, Orb32s len, const Rotations (&rotations)
   // Vector by vector, the frequencies of each side by side.
   constexpr int kSums = Layout::kVectors * kCount;
   Sums sums[kSums];
-  Unrolled<kSums>([&](auto i) { sums[i] = Sums::Of(LoadFloats(last + i / kCount * F32::kLanes)); });
+  Unrolled<kSums>([&](auto i) { sums[i] = Sums::Of(LoadAs<F32>(last + i / kCount * F32::kLanes)); });
   const Step firstStep(rotations[0].ofLog2[Log2(Layout::kSamples)]);
   const Step otherStep(rotations[kCount - 1].ofLog2[Log2(Layout::kSamples)]);
   while (x != first) {
     x -= kElements;
     Unrolled<kSums>([&](auto i) {
-      const F32 samples = LoadFloats(x + i / kCount * F32::kLanes);
+      const F32 samples = LoadAs<F32>(x + i / kCount * F32::kLanes);
       sums[i] = sums[i].Advanced(i % kCount == 0 ? firstStep : otherStep, samples);
     });
   }

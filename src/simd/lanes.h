@@ -2,23 +2,11 @@
 #ifndef ORBS_SIMD_LANES_H
 #define ORBS_SIMD_LANES_H
 
-#include <utility>
-
 #include "simd/simd.h"
 
 #if ORBS_VECTOR
 
 namespace orbs::ORBS_VARIANT {
-
-// Calls f with the constants 0 to n-1, for intrinsics whose operands must be constants.
-template <class F, int... i>
-ORBS_INLINE void ForConstants([[maybe_unused]] F f, std::integer_sequence<int, i...>) {
-  (f(std::integral_constant<int, i>{}), ...);
-}
-template <int n, class F>
-ORBS_INLINE void ForConstants(F f) {
-  ForConstants(f, std::make_integer_sequence<int, n>{});
-}
 
 // One lane in all lanes.
 template <int lane>
@@ -68,6 +56,7 @@ ORBS_INLINE void LoadQuarterToAll(const Orb32f* p, F32x8* out) {
 ORBS_INLINE F32x8 LowQuarterMovedUp(F32x8 a) { return {_mm256_permute2f128_ps(a.v, a.v, 0x08)}; }
 #endif
 ORBS_INLINE void LoadQuarterToAll(const Orb32f* p, F32x4* out) { *out = F32x4::Load(p); }
+ORBS_INLINE F32x4 LowQuarterMovedUp(F32x4) { return F32x4::Zero(); }
 
 // Every element (a lane, or a pair for kParts = 2) in the place of the one above it, the last one at the
 // bottom.
@@ -124,6 +113,11 @@ ORBS_INLINE void StoreLowPair(Orb32f* p, F32x4 a) {
   _mm_storel_epi64(reinterpret_cast<__m128i*>(p), _mm_castps_si128(a.v));
 }
 ORBS_INLINE Orb32f LowLane(F32x4 a) { return _mm_cvtss_f32(a.v); }
+ORBS_INLINE Orb64f LowLane(F64x2 a) { return _mm_cvtsd_f64(a.v); }
+#ifdef __AVX__
+ORBS_INLINE Orb32f LowLane(F32x8 a) { return _mm_cvtss_f32(_mm256_castps256_ps128(a.v)); }
+ORBS_INLINE Orb64f LowLane(F64x4 a) { return _mm_cvtsd_f64(_mm256_castpd256_pd128(a.v)); }
+#endif
 // Every lane in the place of the one below it, a zero on top.
 ORBS_INLINE F32x4 MovedDown(F32x4 a) { return {_mm_castsi128_ps(_mm_srli_si128(_mm_castps_si128(a.v), 4))}; }
 // The low pair in both pairs; the high pair of a with the low pair of b above it.

@@ -57,6 +57,14 @@ using N32 = I32x4;
 using Sum64 = Sum64x2;
 #endif
 
+// What kernels may ask of the level: vectors of 256 bits, and a multiply-add that rounds once.
+inline constexpr bool kHasAvx = sizeof(F32) == 32;
+#ifdef __FMA__
+inline constexpr bool kHasFma = true;
+#else
+inline constexpr bool kHasFma = false;
+#endif
+
 template <class Lane>
 struct VectorFor;
 template <>

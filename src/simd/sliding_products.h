@@ -1,9 +1,6 @@
 // The inner products of a run of outputs: y[i] = sum over k of taps[k] x[i + k], real or complex.
 //
-// A vector holds neighbouring outputs, each tap is broadcast: no sum runs across a vector. Complex sums are
-// kept in two parts, of h.re x and of h.im x, so that the swap of real and imaginary part is made once an
-// output and not once a term:
-//   y = a + (-b.im, b.re),   a = sum h.re x,   b = sum h.im x
+// A vector holds neighbouring outputs, each tap is broadcast: no sum runs across a vector.
 //
 // kTapStep is 1 where the taps are stored reversed, and -1 for taps in natural order, of which the last is
 // given.
@@ -13,16 +10,12 @@
 #include <cstring>
 
 #include "core/parts.h"
+#include "simd/product_sum.h"
 #include "simd/simd.h"
 
 namespace orbs::ORBS_VARIANT {
 
 #if ORBS_VECTOR
-
-template <class V>
-ORBS_INLINE V AddRotated(V a, V b) {
-  return a + (SwapPairs(b) ^ EvenSigns(static_cast<V*>(nullptr)));
-}
 
 // 16 vector registers: eight sums of a real tile leave room for the taps and the loads, and eight in flight
 // keep two multiply-adders of four cycles busy. A complex tile of four vectors has eight sums too.
@@ -37,37 +30,29 @@ struct SlidingTileSums {
   static constexpr size_t kLanes = V::kLanes;
   static constexpr int kSets = kSlidingTileVectors<kParts> / kVectors;
 
-  V a[kSets][kVectors];  // by real parts of the taps
-  V b[kSets][kVectors];  // by imaginary parts
+  ProductSum<V, kParts> sums[kSets][kVectors];
 
   ORBS_INLINE SlidingTileSums() {
     ORBS_UNROLL
     for (int v = 0; v < kSets * kVectors; ++v)
-      a[v / kVectors][v % kVectors] = b[v / kVectors][v % kVectors] = V::Zero();
+      sums[v / kVectors][v % kVectors] = ProductSum<V, kParts>::Zero();
   }
 
   ORBS_INLINE V Output(int v) const {
-    V re = a[0][v];
-    V im = b[0][v];
+    ProductSum<V, kParts> sum = sums[0][v];
     ORBS_UNROLL
-    for (int set = 1; set < kSets; ++set) {
-      re = re + a[set][v];
-      im = im + b[set][v];
-    }
-    return kParts == 2 ? AddRotated(re, im) : re;
+    for (int set = 1; set < kSets; ++set) sum = sum + sums[set][v];
+    return sum.Value();
   }
 
   // kShared terms of each output whose samples lie one vector apart: what is the second term's sample for one
   // vector of outputs is the first term's for the next, so that a load serves kShared multiply-adds.
   template <int kShared>
   ORBS_INLINE void Add(const Part* x, const Part* taps) {
-    V re[kShared];
-    V im[kShared];
+    Factor<V, kParts> tap[kShared];
     ORBS_UNROLL
     for (int s = 0; s < kShared; ++s) {
-      const Part* const tap = taps + s * kTapStep * static_cast<ptrdiff_t>(kLanes);
-      re[s] = V::All(tap[0]);
-      im[s] = kParts == 2 ? V::All(tap[kParts - 1]) : V::Zero();
+      tap[s] = Factor<V, kParts>::Load(taps + s * kTapStep * static_cast<ptrdiff_t>(kLanes));
     }
     ORBS_UNROLL
     for (int load = 0; load < kVectors + kShared - 1; ++load) {
@@ -76,9 +61,7 @@ struct SlidingTileSums {
       for (int s = 0; s < kShared; ++s) {
         const int v = load - s;
         if (v < 0 || v >= kVectors) continue;
-        const int set = s % kSets;
-        a[set][v] = MulAdd(re[s], samples, a[set][v]);
-        if constexpr (kParts == 2) b[set][v] = MulAdd(im[s], samples, b[set][v]);
+        sums[s % kSets][v].Add(tap[s], samples);
       }
     }
   }
@@ -114,15 +97,13 @@ ORBS_INLINE void SlidingTile(const Part* x, const Part* taps, size_t n, V (&y)[k
 template <int kParts, int kTapStep, class V, class Part>
 ORBS_INLINE V SlidingVector(const Part* x, const Part* taps, size_t n) {
   constexpr size_t kSums = 4;
-  V a[kSums];
-  V b[kSums];
+  using Sum = ProductSum<V, kParts>;
+  Sum sums[kSums];
   ORBS_UNROLL
-  for (size_t j = 0; j < kSums; ++j) a[j] = b[j] = V::Zero();
+  for (Sum& sum : sums) sum = Sum::Zero();
   const auto add = [&](size_t j, size_t k) {
-    const V samples = V::Load(x + k * kParts);
     const Part* const tap = taps + static_cast<ptrdiff_t>(k) * kTapStep * kParts;
-    a[j] = MulAdd(V::All(tap[0]), samples, a[j]);
-    if constexpr (kParts == 2) b[j] = MulAdd(V::All(tap[1]), samples, b[j]);
+    sums[j].Add(Factor<V, kParts>::Load(tap), V::Load(x + k * kParts));
   };
   size_t k = 0;
   for (; k + kSums <= n; k += kSums) {
@@ -130,8 +111,7 @@ ORBS_INLINE V SlidingVector(const Part* x, const Part* taps, size_t n) {
     for (size_t j = 0; j < kSums; ++j) add(j, k + j);
   }
   for (; k < n; ++k) add(0, k);
-  const V re = (a[0] + a[1]) + (a[2] + a[3]);
-  return kParts == 2 ? AddRotated(re, (b[0] + b[1]) + (b[2] + b[3])) : re;
+  return ((sums[0] + sums[1]) + (sums[2] + sums[3])).Value();
 }
 
 // `count` outputs. Reads whole vectors: where count is below a vector, up to a vector's end behind x[n-1].

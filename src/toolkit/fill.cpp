@@ -3,58 +3,36 @@
 #include <cstdint>
 #include <cstring>
 
+#include "boundary/cache.h"
 #include "core/checks.h"
 #include "simd/blocks.h"
 #include "simd/simd.h"
+#include "simd/stream.h"
 #include "toolkit/toolkit.h"
-#ifdef __AVX__
-#include "boundary/cache.h"
-#endif
 
 namespace orbs::ORBS_VARIANT {
 namespace {
 
-#ifdef __AVX__
-
 // A fill larger than the largest cache evicts everything and gains nothing from it; below 2 MiB it is not
 // worth asking.
-bool FillShouldStream(Orb64s bytes) {
+[[maybe_unused]] bool FillShouldStream(Orb64s bytes) {
   constexpr Orb64s kLeastStreamed = 0x200001;
   uint32_t cacheSize = 0;
   return bytes >= kLeastStreamed && QueryCacheSize(&cacheSize) == StatusOk && cacheSize > 0 &&
          bytes > cacheSize;
 }
 
-// Fills with a pattern of 4 equal bytes or, at an address that is a multiple of 4, of 4 any bytes: only then
-// do the parts that overlap agree.
-void StreamFill(__m256 pattern, void* dst, Orb64s bytes) {
-  const auto store = [pattern](unsigned char* p) { _mm256_storeu_ps(reinterpret_cast<float*>(p), pattern); };
-  auto* p = static_cast<unsigned char*>(dst);
-  unsigned char* const end = p + bytes;
-  store(p);
-  store(p + 32);
-  p += 64 - (reinterpret_cast<uintptr_t>(p) & 63);
-  for (; end - p >= 64; p += 64) {
-    _mm256_stream_ps(reinterpret_cast<float*>(p), pattern);
-    _mm256_stream_ps(reinterpret_cast<float*>(p + 32), pattern);
+bool StreamIfLarge([[maybe_unused]] Orb32s pattern, [[maybe_unused]] void* dst,
+                   [[maybe_unused]] Orb64s bytes) {
+#if ORBS_VECTOR
+  if constexpr (kStreams) {
+    if (!FillShouldStream(bytes)) return false;
+    StreamFill(pattern, dst, bytes);
+    return true;
   }
-  // The rest, below 64 bytes, by the last 64 once more.
-  store(end - 64);
-  store(end - 32);
-  _mm_sfence();
-}
-
-bool StreamIfLarge(Orb32s pattern, void* dst, Orb64s bytes) {
-  if (!FillShouldStream(bytes)) return false;
-  StreamFill(_mm256_castsi256_ps(_mm256_set1_epi32(pattern)), dst, bytes);
-  return true;
-}
-
-#else
-
-bool StreamIfLarge(Orb32s, void*, Orb64s) { return false; }
-
 #endif
+  return false;
+}
 
 void FillWords(Orb32s value, void* dst, size_t n) {
 #if ORBS_VECTOR

@@ -11,6 +11,9 @@
 #include "core/scaling.h"
 #include "fir/adaptive/lms_walk.h"
 #include "fir/ring.h"
+#include "simd/lanes.h"
+#include "simd/load.h"
+#include "simd/reduce.h"
 #include "simd/simd.h"
 
 namespace orbs::ORBS_VARIANT::fir {
@@ -30,12 +33,12 @@ ORBS_INLINE Orb32f LmsStepWith(const FirRing<Sample>& ring, Sample newest, Orb32
   split.ForVectors(
       [&](size_t k, int turn) { sums[turn] = MulAdd(V::Load(taps + k), LoadAs<V>(x + k), sums[turn]); });
   sums[3] = MulAdd(split.NotYetSeen(lastTaps), split.NotYetSeen(lastSamples), sums[3]);
-  const V y = TotalInAll((sums[0] + sums[1]) + (sums[2] + sums[3]));
+  const V y = SumInAllLanes((sums[0] + sums[1]) + (sums[2] + sums[3]));
 
   const V e = (V::All(reference) - y) * V::All(2) * V::All(mu);
   split.ForVectors([&](size_t k, int) { MulAdd(e, LoadAs<V>(x + k), V::Load(taps + k)).Store(taps + k); });
   split.StoreLast(taps, [&](Orb32f* to) { MulAdd(e, lastSamples, lastTaps).Store(to); });
-  return FirstLane(y);
+  return LowLane(y);
 }
 
 template <class Sample>
@@ -85,9 +88,9 @@ ORBS_INLINE Orb64f LmsStepQ15With(const FirRing<Orb16s>& ring, Orb16s newest, Or
     add(tap, sample, turn);
   });
   add(split.NotYetSeen(lastTaps), split.NotYetSeen(lastSamples), 3);
-  const V y = TotalInAll((sums[0] + sums[1]) + (sums[2] + sums[3])) * V::All(0x1p-15);
-  const V energy = TotalInAll((energies[0] + energies[1]) + (energies[2] + energies[3]));
-  if (FirstLane(energy) == 0) return FirstLane(y);
+  const V y = SumInAllLanes((sums[0] + sums[1]) + (sums[2] + sums[3])) * V::All(0x1p-15);
+  const V energy = SumInAllLanes((energies[0] + energies[1]) + (energies[2] + energies[3]));
+  if (LowLane(energy) == 0) return LowLane(y);
 
   const V g = V::All(mu) * (V::All(reference) - y) * (V::All(1) / energy);
   split.ForVectors([&](size_t k, int) {
@@ -98,7 +101,7 @@ ORBS_INLINE Orb64f LmsStepQ15With(const FirRing<Orb16s>& ring, Orb16s newest, Or
     }
   });
   split.StoreLast(taps, [&](Orb32s* to) { StoreMovedQ15(to, lastTaps, g, lastSamples); });
-  return FirstLane(y);
+  return LowLane(y);
 }
 
 inline Orb64f LmsStepQ15(const FirRing<Orb16s>& ring, Orb16s newest, Orb16s reference, Orb32s* taps,

@@ -14,27 +14,12 @@
 #include <cstddef>
 #include <type_traits>
 
+#include "simd/load.h"
 #include "simd/simd.h"
 
 #if ORBS_VECTOR
 
 namespace orbs::ORBS_VARIANT::fir {
-
-// A vector of elements, converted to its lanes.
-template <class V, class T>
-ORBS_INLINE V LoadAs(const T* p) {
-  V lanes;
-  if constexpr (std::is_same_v<T, typename V::Lane>) {
-    lanes = V::Load(p);
-  } else if constexpr (std::is_same_v<typename V::Lane, Orb32f>) {
-    std::conditional_t<std::is_same_v<V, F32>, I32, I32x4> integers;
-    LoadWiden(p, &integers);
-    lanes = ToFloat(integers);
-  } else {
-    LoadWiden(p, &lanes);
-  }
-  return lanes;
-}
 
 // Calls step with a null pointer of the vector type to take for n elements: V, or Short, of 128 bits, where
 // n does not fill V.
@@ -44,22 +29,6 @@ ORBS_INLINE auto WithVectorFor(size_t n, Step step) {
     if (n < V::kLanes) return step(static_cast<Short*>(nullptr));
   }
   return step(static_cast<V*>(nullptr));
-}
-
-template <class V>
-ORBS_INLINE typename V::Lane FirstLane(V a) {
-  typename V::Lane lanes[V::kLanes];
-  a.Store(lanes);
-  return lanes[0];
-}
-
-// The sum of all lanes, in each lane.
-template <class V>
-ORBS_INLINE V TotalInAll(V a) {
-  a = a + Reverse(a);
-  if constexpr (V::kLanes > 2) a = a + SwapPairs(a);
-  if constexpr (V::kLanes > 4) a = a + SwapHalves(a);
-  return a;
 }
 
 // All ones in the last `count` lanes, 1 <= count <= kLanes.

@@ -4,8 +4,9 @@
 
 #include "fir/deliver.h"
 #include "fir/direct/direct.h"
-#include "fir/float/one_kernels.h"
 #include "fir/float/state.h"
+#include "simd/dot_product.h"
+#include "simd/sliding_products.h"
 
 namespace orbs::ORBS_VARIANT::fir {
 
@@ -21,7 +22,7 @@ struct FloatDirect {
 
   ORBS_INLINE void One(const Data* x, Data* dst) const {
     Wide<PartOf<Tap>> sums[kParts];
-    FirDot<-1>(Parts(x), Parts(taps + (tapCount - 1)), tapCount, sums);
+    DotProduct<-1>(Parts(x), Parts(taps + (tapCount - 1)), tapCount, sums);
     for (int part = 0; part < kParts; ++part)
       Parts(dst)[part] = DeliverOne<PartOf<Data>, true>(sums[part], scaleFactor);
   }

@@ -4,12 +4,12 @@
 
 #include "core/memory.h"
 #include "fir/direct/direct.h"
-#include "fir/float/one_kernels.h"
 #include "fir/integer/access.h"
 #include "fir/integer/filter.h"
 #include "fir/integer/kernels.h"
 #include "fir/integer/state.h"
 #include "simd/blocks.h"
+#include "simd/dot_product.h"
 
 namespace orbs::ORBS_VARIANT::fir {
 
@@ -110,7 +110,7 @@ struct IntegerDirect {
   ORBS_INLINE void One(const Data* x, Data* dst) const {
     Orb32s sums[kParts];
 #if ORBS_VECTOR
-    FirDot<-1>(Parts(x), Parts(taps + (tapCount - 1)), tapCount, sums);
+    DotProduct<-1>(Parts(x), Parts(taps + (tapCount - 1)), tapCount, sums);
 #else
     FirIntOne<-1>(x, taps + (tapCount - 1), tapCount, sums);
 #endif

@@ -4,8 +4,8 @@
 
 #include "core/checks.h"
 #include "fir/deliver.h"
-#include "fir/float/one_kernels.h"
 #include "fir/float/state.h"
+#include "simd/dot_product.h"
 
 namespace orbs::ORBS_VARIANT::fir {
 
@@ -44,12 +44,12 @@ OrbStatus FilterOne(typename Kind::Data src, typename Kind::Data* dst, FIRFloatS
   Sum sums[kParts];
 #if ORBS_VECTOR
   if constexpr (std::is_same_v<Kind, Fir32f>) {
-    FirDot(samples, state->preciseTaps.In(state), n, sums);
+    DotProduct(samples, state->preciseTaps.In(state), n, sums);
   } else {
-    FirDot(samples, Parts(view.Taps()), n, sums);
+    DotProduct(samples, Parts(view.Taps()), n, sums);
   }
 #else
-  FirDot(samples, Parts(view.Taps()), n, sums);
+  DotProduct(samples, Parts(view.Taps()), n, sums);
 #endif
   const bool halfAway = RoundsHalfAway<Kind>(n);
   for (int part = 0; part < kParts; ++part) {

@@ -16,7 +16,10 @@
 
 #include "core/scaling.h"
 #include "fir/kinds.h"
+#if ORBS_VECTOR
+#include "simd/reduce.h"
 #include "simd/simd.h"
+#endif
 
 namespace orbs::ORBS_VARIANT::fir {
 
@@ -170,14 +173,6 @@ void FirIntSums(const Data* src, const Orb16s* taps, Orb32s n, Data* dst, Orb32s
 
 // ---- One output ----
 
-ORBS_INLINE Orb32s SumOfLanes(N32 a) {
-  Orb32s lanes[N32::kLanes];
-  a.Store(lanes);
-  Orb32u sum = 0;
-  for (Orb32s lane : lanes) sum += static_cast<Orb32u>(lane);
-  return static_cast<Orb32s>(sum);
-}
-
 ORBS_INLINE Orb32s FirIntDot(const Orb16s* x, const Orb16s* taps, int64_t pairs) {
   N32 a = N32::Zero();
   N32 b = N32::Zero();
@@ -187,7 +182,9 @@ ORBS_INLINE Orb32s FirIntDot(const Orb16s* x, const Orb16s* taps, int64_t pairs)
     b = b + MulAddPairs(I16::Load(taps + 2 * k + I16::kLanes), I16::Load(x + 2 * k + I16::kLanes));
   }
   if (k < pairs) a = a + MulAddPairs(I16::Load(taps + 2 * k), I16::Load(x + 2 * k));
-  return SumOfLanes(a + b);
+  Orb32s sum[1];
+  SumLanes(a + b, sum);
+  return sum[0];
 }
 
 // Reads whole vectors of samples; behind the taps stand zeros.

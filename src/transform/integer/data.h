@@ -4,6 +4,7 @@
 #define ORBS_TRANSFORM_INTEGER_DATA_H
 
 #include "core/scaling.h"
+#include "simd/load.h"
 #include "simd/round_scaled.h"
 #include "simd/simd.h"
 #include "transform/engine/data.h"
@@ -36,16 +37,9 @@ struct RoundedParts {
 
 // ---- A vector of pairs at point i ----
 
-template <class Int>
-ORBS_INLINE F32 LoadPoints(IntegerPairs<Orb32f, Int> data, size_t i) {
-  I32 x;
-  LoadWiden(data.pairs + 2 * i, &x);
-  return ToFloat(x);
-}
-ORBS_INLINE F64 LoadPoints(IntegerPairs<Orb64f, Orb32s> data, size_t i) {
-  F64 x;
-  LoadWiden(data.pairs + 2 * i, &x);
-  return x;
+template <class T, class Int>
+ORBS_INLINE VectorOf<T> LoadPoints(IntegerPairs<T, Int> data, size_t i) {
+  return LoadAs<VectorOf<T>>(data.pairs + 2 * i);
 }
 ORBS_INLINE F32 LoadPoints(IntegerParts<Orb32f, Orb16s> data, size_t i) {
   I32 x;

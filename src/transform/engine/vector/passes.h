@@ -46,9 +46,7 @@ struct TwiddleReader {
   const T* forImaginary;
 
   ORBS_INLINE explicit TwiddleReader(const T* twiddles) : forReal(twiddles), forImaginary(twiddles) {
-#ifdef __AVX__
-    asm("" : "+r"(forImaginary));
-#endif
+    if constexpr (kHasAvx) asm("" : "+r"(forImaginary));
   }
 
   // v times the vector of twiddles at `entry`, or their conjugates.
@@ -80,16 +78,16 @@ struct Turned {
 };
 template <bool kForward, class V>
 ORBS_INLINE Turned<V> AddTurned(V a, V v) {
-#ifdef __FMA__
-  const V one = V::All(1);
-  const V swapped = SwapPairs(v);
-  const V plus = MulSubAdd(a, one, swapped);   // a - i v
-  const V minus = MulAddSub(a, one, swapped);  // a + i v
-  return kForward ? Turned<V>{plus, minus} : Turned<V>{minus, plus};
-#else
-  const V t = TurnQuarter<kForward>(v);
-  return {a + t, a - t};
-#endif
+  if constexpr (kHasFma) {
+    const V one = V::All(1);
+    const V swapped = SwapPairs(v);
+    const V plus = MulSubAdd(a, one, swapped);   // a - i v
+    const V minus = MulAddSub(a, one, swapped);  // a + i v
+    return kForward ? Turned<V>{plus, minus} : Turned<V>{minus, plus};
+  } else {
+    const V t = TurnQuarter<kForward>(v);
+    return {a + t, a - t};
+  }
 }
 
 // In: x[m], residue m of the index; out: x[k], frequency k.

@@ -3,17 +3,19 @@
 //
 // kTapStep is 1 where the taps are stored reversed, as the states have them, and -1 for taps in natural
 // order, of which the last is given: taps[-k] x[k].
-#ifndef ORBS_FIR_FLOAT_ONE_KERNELS_H
-#define ORBS_FIR_FLOAT_ONE_KERNELS_H
+#ifndef ORBS_SIMD_DOT_PRODUCT_H
+#define ORBS_SIMD_DOT_PRODUCT_H
 
 #include <cstddef>
 
+#include "core/parts.h"
 #include "core/scaling.h"
-#include "fir/kinds.h"
+#include "simd/load.h"
+#include "simd/product_sum.h"
+#include "simd/reduce.h"
 #include "simd/simd.h"
-#include "simd/sliding_products.h"
 
-namespace orbs::ORBS_VARIANT::fir {
+namespace orbs::ORBS_VARIANT {
 
 #if ORBS_VECTOR
 
@@ -42,11 +44,7 @@ struct DotSum<I16x8> {
   using Type = I32x4;
 };
 
-ORBS_INLINE N32 AddTerm(N32 sum, N32 tap, N32 sample) { return sum + tap * sample; }
-ORBS_INLINE I32x4 AddTerm(I32x4 sum, I16x8 tap, I16x8 sample) { return sum + MulAddPairs(tap, sample); }
-
-// ---- Order of lanes; 32-bit integers take the shuffles of binary32 ----
-
+// 32-bit integers take the shuffles of binary32.
 template <int kParts, class V>
 ORBS_INLINE V Reversed(V a) {
   return kParts == 1 ? Reverse(a) : ReversePairs(a);
@@ -55,87 +53,28 @@ template <int kParts>
 ORBS_INLINE N32 Reversed(N32 a) {
   return AsInt(Reversed<kParts>(AsFloat(a)));
 }
-ORBS_INLINE N32 DupEven(N32 a) { return AsInt(DupEven(AsFloat(a))); }
-ORBS_INLINE N32 DupOdd(N32 a) { return AsInt(DupOdd(AsFloat(a))); }
-ORBS_INLINE N32 AddRotated(N32 a, N32 b) {
-  auto swapped = SwapPairs(AsFloat(b));
-  const N32 evenLanes = ShiftRight(AsInt(EvenSigns(&swapped)), 31);
-  // Minus x is the complement of x - 1.
-  return a + ((AsInt(swapped) ^ evenLanes) - evenLanes);
-}
-
-// ---- Samples as lanes of the taps' vector; exact ----
-
-ORBS_INLINE void LoadSamples(const Orb32f* p, F32* out) { *out = F32::Load(p); }
-ORBS_INLINE void LoadSamples(const Orb64f* p, F64* out) { *out = F64::Load(p); }
-ORBS_INLINE void LoadSamples(const Orb32f* p, F64* out) { LoadWiden(p, out); }
-ORBS_INLINE void LoadSamples(const Orb16s* p, F32* out) {
-  I32 x;
-  LoadWiden(p, &x);
-  *out = ToFloat(x);
-}
-ORBS_INLINE void LoadSamples(const Orb16s* p, F64* out) { LoadWiden(p, out); }
-ORBS_INLINE void LoadSamples(const Orb32s* p, F64* out) { LoadWiden(p, out); }
-ORBS_INLINE void LoadSamples(const Orb16s* p, N32* out) { LoadWiden(p, out); }
-ORBS_INLINE void LoadSamples(const Orb16s* p, I16x8* out) { *out = I16x8::Load(p); }
-
-// ---- The sums of a dot product: vectors of terms go to four in turn ----
-
-template <class V>
-ORBS_INLINE V AddTerm(V sum, V tap, V sample) {
-  return MulAdd(tap, sample, sum);
-}
-
-// The sum of all lanes, or of the even and of the odd ones, by halves: three additions deep, not seven.
-template <int kParts, class V>
-ORBS_INLINE void AddLanes(V sum, typename V::Lane (&y)[kParts]) {
-  using Lane = typename V::Lane;
-  Lane lanes[V::kLanes];
-  sum.Store(lanes);
-  ORBS_UNROLL
-  for (int half = V::kLanes / 2; half >= kParts; half /= 2) {
-    ORBS_UNROLL
-    for (int i = 0; i < half; ++i) {
-      if constexpr (std::is_integral_v<Lane>) {
-        lanes[i] = AddWrapping(lanes[i], lanes[i + half]);
-      } else {
-        lanes[i] += lanes[i + half];
-      }
-    }
-  }
-  for (int part = 0; part < kParts; ++part) y[part] = lanes[part];
-}
-
-// Complex sums in two parts, of h.re x and of h.im x, as in the block kernels.
+// The sums of a dot product: vectors of terms go to four in turn.
 template <int kParts, class Sum>
 struct DotSums {
   static constexpr size_t kSums = 4;
-  Sum a[kSums];
-  Sum b[kSums];
+  ProductSum<Sum, kParts> sums[kSums];
 
   ORBS_INLINE DotSums() {
     ORBS_UNROLL
-    for (size_t j = 0; j < kSums; ++j) a[j] = b[j] = Sum::Zero();
+    for (auto& sum : sums) sum = sum.Zero();
   }
   template <class V>
   ORBS_INLINE void Add(size_t j, V tap, V sample) {
-    if constexpr (kParts == 1) {
-      a[j] = AddTerm(a[j], tap, sample);
-    } else {
-      a[j] = AddTerm(a[j], DupEven(tap), sample);
-      b[j] = AddTerm(b[j], DupOdd(tap), sample);
-    }
+    sums[j].Add(Factor<V, kParts>::Each(tap), sample);
   }
   ORBS_INLINE void Total(typename Sum::Lane (&y)[kParts]) const {
-    Sum sum = (a[0] + a[1]) + (a[2] + a[3]);
-    if constexpr (kParts == 2) sum = AddRotated(sum, (b[0] + b[1]) + (b[2] + b[3]));
-    AddLanes(sum, y);
+    SumLanes(((sums[0] + sums[1]) + (sums[2] + sums[3])).Value(), y);
   }
 };
 
 // The terms of 1 to a vector of samples, one by one, in two sums in turn. 32-bit integers wrap.
 template <int kTapStep, int kParts, class Sample, class Part, class Y>
-ORBS_INLINE void FirDotOfFew(const Sample* x, const Part* taps, size_t parts, Y (&y)[kParts]) {
+ORBS_INLINE void DotProductOfFew(const Sample* x, const Part* taps, size_t parts, Y (&y)[kParts]) {
   using Sum = std::conditional_t<std::is_integral_v<Y>, Orb32u, Y>;
   const auto product = [](Part h, Sample s) { return static_cast<Sum>(h) * static_cast<Sum>(s); };
   const auto add = [&](Sum(&sum)[kParts], size_t k) {
@@ -165,16 +104,15 @@ ORBS_INLINE void FirDotOfFew(const Sample* x, const Part* taps, size_t parts, Y 
 // calls just before would cost more than all the arithmetic; and what fills no vector needs no mask, and no
 // room behind the arrays.
 template <int kTapStep = 1, int kParts, class Sample, class Part, class Y>
-ORBS_INLINE void FirDot(const Sample* x, const Part* taps, Orb32s tapCount, Y (&y)[kParts]) {
+ORBS_INLINE void DotProduct(const Sample* x, const Part* taps, Orb32s tapCount, Y (&y)[kParts]) {
   using V = typename DotVector<Part>::Type;
   using Sums = DotSums<kParts, typename DotSum<V>::Type>;
   constexpr size_t kLanes = V::kLanes;
   const size_t parts = static_cast<size_t>(tapCount) * kParts;
   const size_t whole = (parts - 1) / kLanes * kLanes;
-  FirDotOfFew<kTapStep>(x + whole, taps + kTapStep * static_cast<ptrdiff_t>(whole), parts - whole, y);
+  DotProductOfFew<kTapStep>(x + whole, taps + kTapStep * static_cast<ptrdiff_t>(whole), parts - whole, y);
   if (whole == 0) return;
   Sums sums;
-  V sample;
   const auto tapsOf = [taps](size_t k) {
     if constexpr (kTapStep == 1) {
       return V::Load(taps + k);
@@ -186,14 +124,10 @@ ORBS_INLINE void FirDot(const Sample* x, const Part* taps, Orb32s tapCount, Y (&
   for (; k + Sums::kSums * kLanes <= whole; k += Sums::kSums * kLanes) {
     ORBS_UNROLL
     for (size_t j = 0; j < Sums::kSums; ++j) {
-      LoadSamples(x + k + j * kLanes, &sample);
-      sums.Add(j, tapsOf(k + j * kLanes), sample);
+      sums.Add(j, tapsOf(k + j * kLanes), LoadAs<V>(x + k + j * kLanes));
     }
   }
-  for (; k < whole; k += kLanes) {
-    LoadSamples(x + k, &sample);
-    sums.Add(0, tapsOf(k), sample);
-  }
+  for (; k < whole; k += kLanes) sums.Add(0, tapsOf(k), LoadAs<V>(x + k));
   Y total[kParts];
   sums.Total(total);
   for (int part = 0; part < kParts; ++part) {
@@ -209,7 +143,7 @@ ORBS_INLINE void FirDot(const Sample* x, const Part* taps, Orb32s tapCount, Y (&
 
 // The terms are taken in pairs, in rising k.
 template <int kTapStep = 1, int kParts, class Sample, class Part>
-void FirDot(const Sample* x, const Part* taps, Orb32s tapCount, Wide<Part> (&y)[kParts]) {
+void DotProduct(const Sample* x, const Part* taps, Orb32s tapCount, Wide<Part> (&y)[kParts]) {
   using W = Wide<Part>;
   const auto term = [&](size_t k, W(&t)[kParts]) {
     const Part* h = taps + static_cast<ptrdiff_t>(k) * kTapStep * kParts;
@@ -234,6 +168,6 @@ void FirDot(const Sample* x, const Part* taps, Orb32s tapCount, Wide<Part> (&y)[
 
 #endif
 
-}  // namespace orbs::ORBS_VARIANT::fir
+}  // namespace orbs::ORBS_VARIANT
 
 #endif
