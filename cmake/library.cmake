@@ -1,7 +1,7 @@
 # liborbs90lgc.so and, beside it, liborbs90lgc_pinnable.so from the same objects.
 
 # The vendor that Init expects. The default is fixed, so that the library is the same wherever it was built. It is the
-# one whose processors answer the CPUID leaves that src/boundary/cache.cpp reads, 2 and 4, and no others are asked.
+# one whose processors answer the CPUID leaves that src/boundary/processor/cache.cpp reads, 2 and 4, and no others are asked.
 if("$CACHE{ORBS_EXPECTED_VENDOR_ID}" STREQUAL "")
   unset(ORBS_EXPECTED_VENDOR_ID CACHE)  # an empty one stands for the default
 endif()

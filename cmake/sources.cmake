@@ -24,11 +24,11 @@ set(ORBS_VARIANT_SOURCES
     src/transform/engine/vector/transform_64f.cpp
     src/transform/integer/complex_exports_16.cpp
     src/transform/integer/complex_exports_32.cpp
-    src/transform/integer/fixed.cpp
+    src/transform/integer/fixed/fixed.cpp
+    src/transform/integer/fixed/tables.cpp
     src/transform/integer/init_exports.cpp
     src/transform/integer/real_exports_16.cpp
     src/transform/integer/real_exports_32.cpp
-    src/transform/integer/tables.cpp
     src/transform/spectrum/spectrum_exports.cpp
     src/fir/adaptive/lms_exports.cpp
     src/fir/direct/float_taps_exports_float_data.cpp
@@ -63,7 +63,7 @@ set(ORBS_VARIANT_SOURCES
     src/modem/viterbi_exports.cpp)
 
 # Compiled once: what lies below the variants, and what stands in front of them.
-set(ORBS_COMMON_SOURCES src/boundary/cache.cpp src/boundary/cpuid.cpp src/core/memory.cpp src/boundary/processor.cpp)
+set(ORBS_COMMON_SOURCES src/boundary/processor/cache.cpp src/boundary/processor/cpuid.cpp src/core/memory.cpp src/boundary/processor/processor.cpp)
 set(ORBS_BOUNDARY_SOURCES src/boundary/init.cpp src/boundary/stubs.S)
 
 # The list of exports, for what reads it without the compiler's own record of what a file includes.

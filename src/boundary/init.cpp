@@ -1,5 +1,5 @@
 // The exports outside the variants.
-#include "boundary/processor.h"
+#include "boundary/processor/processor.h"
 #pragma GCC visibility push(default)
 #include "orbs90lgc/frame.h"
 #pragma GCC visibility pop

@@ -2,7 +2,7 @@
 #define ORBS_SLICE "boundary/exports/frame.def"
 #include "boundary/declare_exports.h"
 #if ORBS_VARIANT_INDEX == 4
-#include "boundary/processor.h"
+#include "boundary/processor/processor.h"
 #endif
 
 namespace orbs::ORBS_VARIANT {

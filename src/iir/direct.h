@@ -7,7 +7,7 @@
 #include "core/checks.h"
 #include "core/memory.h"
 #include "core/scaling.h"
-#include "iir/coefficients.h"
+#include "iir/recursion/coefficients.h"
 #include "iir/run.h"
 
 namespace orbs::ORBS_VARIANT::iir {

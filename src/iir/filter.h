@@ -3,8 +3,8 @@
 #define ORBS_IIR_FILTER_H
 
 #include "iir/interface.h"
+#include "iir/recursion/step.h"
 #include "iir/run.h"
-#include "iir/step.h"
 
 namespace orbs::ORBS_VARIANT::iir {
 

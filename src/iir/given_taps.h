@@ -3,7 +3,7 @@
 #define ORBS_IIR_GIVEN_TAPS_H
 
 #include "core/memory.h"
-#include "iir/coefficients.h"
+#include "iir/recursion/coefficients.h"
 #include "toolkit/toolkit.h"
 
 namespace orbs::ORBS_VARIANT::iir {

@@ -4,10 +4,10 @@
 
 #include <utility>
 
-#include "iir/lane_cascade.h"
-#include "iir/long_recursion.h"
-#include "iir/look_ahead.h"
-#include "iir/step.h"
+#include "iir/recursion/lane_cascade.h"
+#include "iir/recursion/long_recursion.h"
+#include "iir/recursion/look_ahead.h"
+#include "iir/recursion/step.h"
 #include "simd/round_scaled.h"
 #include "simd/sliding_products.h"
 #include "toolkit/toolkit.h"

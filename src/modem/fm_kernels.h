@@ -11,6 +11,7 @@
 
 #include "core/scaling.h"
 #include "core/variant.h"
+#include "modem/tuning.h"
 
 #if ORBS_VECTOR
 #include <algorithm>
@@ -33,10 +34,9 @@ inline constexpr Orb32s kWrapped = std::numeric_limits<Orb32s>::min();
 
 #if ORBS_VECTOR
 
-// By an estimate of the reciprocal and a Newton step, which doubles its 12 bits. The processors of h9 have
-// dividers that keep up with that, most of them overtake it.
+// Where dividers are slow, by an estimate of the reciprocal and a Newton step, which doubles its 12 bits.
 ORBS_INLINE F32 Quotient(F32 numerator, F32 denominator) {
-  if constexpr (kVariant == Variant::h9) return numerator / denominator;
+  if constexpr (kDivides) return numerator / denominator;
   const F32 estimate = ReciprocalEstimate(denominator);
   const F32 error = NegMulAdd(denominator, estimate, F32::All(1));
   return numerator * MulAdd(estimate, error, estimate);

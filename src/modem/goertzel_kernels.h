@@ -14,6 +14,7 @@
 
 #include <type_traits>
 
+#include "core/complex.h"
 #include "core/parts.h"
 #include "core/scaling.h"
 #include "core/variant.h"
@@ -40,10 +41,7 @@ ORBS_INLINE Rotation RotationOf(Orb64f relativeFrequency) {
 
 ORBS_INLINE Rotation Doubled(Rotation r) { return {2 * r.c * r.c - 1, 2 * r.s * r.c}; }
 
-struct FourierSum {
-  Wide<Orb64f> re;
-  Wide<Orb64f> im;
-};
+using FourierSum = Complex<Wide<Orb64f>>;
 
 // The sum times exp(-j w), plus x.
 ORBS_INLINE FourierSum Advance(FourierSum z, Rotation r, FourierSum x) {

@@ -23,14 +23,18 @@ ORBS_INLINE I32 RoundToInts(F32 y) {
 // The conversions give -2^31 for whatever does not fit 32 bits, NaN included. Below the range that is the
 // bound already; so only values above it need care.
 
+// One I16 from the vectors of binary32 that get(offset) gives for each offset, rounded and saturated.
+template <Orb32s kMode, class Get>
+ORBS_INLINE I16 PackSaturated(Get get) {
+  return PackFrom([&](int i) { return RoundToInts<kMode>(Min(F32::All(32767), get(i))); });
+}
+
 template <Orb32s kMode, class Scale>
 void RoundScaled(const Orb32f* src, Orb16s* dst, size_t n, Scale scale) {
   ForBlocks<I16::kLanes>(
       n,
       [scale](Orb16s* d, const Orb32f* s) {
-        PackFrom([scale, s](int i) {
-          return RoundToInts<kMode>(Min(F32::All(32767), scale(F32::Load(s + i))));
-        }).Store(d);
+        PackSaturated<kMode>([scale, s](int i) { return scale(F32::Load(s + i)); }).Store(d);
       },
       dst, src);
 }

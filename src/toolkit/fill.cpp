@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "boundary/cache.h"
+#include "boundary/processor/cache.h"
 #include "core/checks.h"
 #include "simd/blocks.h"
 #include "simd/simd.h"

@@ -1,11 +1,11 @@
 // The size of the largest data cache, on made-up processors.
-#include "boundary/cache.h"
+#include "boundary/processor/cache.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "boundary/processor.h"
+#include "boundary/processor/processor.h"
 #include "orbs90lgc/status.h"
 #include "tests/support/made_up_processor.h"
 

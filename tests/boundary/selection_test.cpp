@@ -5,7 +5,7 @@
 #include <string>
 
 #include "boundary/dispatch.h"
-#include "boundary/processor.h"
+#include "boundary/processor/processor.h"
 #include "orbs90lgc/status.h"
 #include "tests/support/made_up_processor.h"
 #include "tests/support/variants.h"

@@ -6,7 +6,7 @@
 #include <cstring>
 
 #include "boundary/dispatch.h"
-#include "boundary/processor.h"
+#include "boundary/processor/processor.h"
 #include "orbs90lgc.h"
 #include "tests/boundary/registers.h"
 #include "tests/support/variants.h"

@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-#include "boundary/cpuid.h"
+#include "boundary/processor/cpuid.h"
 
 namespace orbs::test {
 

@@ -1,7 +1,7 @@
 // Fills: small ones at every length and alignment, and those that stream past the cache.
 #include <functional>
 
-#include "boundary/cache.h"
+#include "boundary/processor/cache.h"
 #include "tests/support/guarded_array.h"
 #include "tests/toolkit/toolkit_table.h"
 

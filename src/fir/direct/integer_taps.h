@@ -144,7 +144,7 @@ struct IntegerDirect {
 
 // ---- Taps of 16 bits ----
 
-constexpr Orb32s kQ15 = -15;
+inline constexpr Orb32s kQ15 = -15;
 
 inline OrbStatus CheckIndex(Orb32s tapCount, Orb32s delayIndex) {
   if (tapCount < 1) return StatusFirLength;

@@ -9,25 +9,25 @@
 
 namespace orbs::ORBS_VARIANT::gen {
 
-constexpr Orb64f kHalfPi = 1.5707963267948966;
-constexpr Orb64f kMost = 2147483647.0;  // of the integers that the wave is rounded to
+inline constexpr Orb64f kHalfPi = 1.5707963267948966;
+inline constexpr Orb64f kMost = 2147483647.0;  // of the integers that the wave is rounded to
 
 #if ORBS_VECTOR
 
-constexpr Orb64f kOneByPi = 0.3183098861837907;
+inline constexpr Orb64f kOneByPi = 0.3183098861837907;
 // pi in four parts, the first three of 22 bits or fewer.
-constexpr Orb64f kPi[4] = {0x1.921FBp+1, 0x1.5110Bp-21, 0x1.184698p-43, 0x1.3198A2E037073p-68};
+inline constexpr Orb64f kPi[4] = {0x1.921FBp+1, 0x1.5110Bp-21, 0x1.184698p-43, 0x1.3198A2E037073p-68};
 // -1/3!, 1/5! ... 1/21!: the next term of the sine is below 2e-18 at pi / 2.
-constexpr Orb64f kSineSeries[10] = {-1.0 / 6,
-                                    1.0 / 120,
-                                    -1.0 / 5040,
-                                    1.0 / 362880,
-                                    -1.0 / 39916800,
-                                    1.0 / 6227020800,
-                                    -1.0 / 1307674368000,
-                                    1.0 / 355687428096000,
-                                    -1.0 / 121645100408832000,
-                                    1.0 / 51090942171709440000.0};
+inline constexpr Orb64f kSineSeries[10] = {-1.0 / 6,
+                                           1.0 / 120,
+                                           -1.0 / 5040,
+                                           1.0 / 362880,
+                                           -1.0 / 39916800,
+                                           1.0 / 6227020800,
+                                           -1.0 / 1307674368000,
+                                           1.0 / 355687428096000,
+                                           -1.0 / 121645100408832000,
+                                           1.0 / 51090942171709440000.0};
 
 // sin x for 0 <= x <= 2^32, to within 3e-16: x = k pi + r, sin x = (-1)^k sin r.
 ORBS_INLINE F64 Sine(F64 x) {

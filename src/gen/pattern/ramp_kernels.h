@@ -7,6 +7,9 @@
 
 #include "core/scaling.h"
 #include "gen/generate.h"
+#if ORBS_VECTOR
+#include "simd/round_scaled.h"
+#endif
 
 namespace orbs::ORBS_VARIANT::gen {
 
@@ -14,8 +17,8 @@ namespace orbs::ORBS_VARIANT::gen {
 
 // ---- Delivery of kLineBlock values; y(i) is the vector of those from the i-th on, in binary32 ----
 //
-// `round` makes 32-bit integers of it. The conversions give -2^31 for what does not fit 32 bits, NaN
-// included: below the range that ends at the lower bound; so only values above it need care.
+// kMode is the way of rounding. The conversions give -2^31 for what does not fit 32 bits, NaN included: below
+// the range that ends at the lower bound; so only values above it need care.
 
 // A multiple of the lanes of every vector type.
 inline constexpr int kLineBlock = 32;
@@ -39,33 +42,33 @@ ORBS_INLINE void DeliverLine(Orb64f* d, Line y) {
   }
 }
 
-template <class Line, class Round>
-ORBS_INLINE void DeliverLine(Orb16s* d, Line y, Round round) {
+template <Orb32s kMode, class Line>
+ORBS_INLINE void DeliverLine(Orb16s* d, Line y) {
   ORBS_UNROLL
   for (int i = 0; i < kLineBlock; i += I16::kLanes) {
-    PackFrom([&](int j) { return round(Min(F32::All(32767), y(i + j))); }).Store(d + i);
+    PackSaturated<kMode>([&](int j) { return y(i + j); }).Store(d + i);
   }
 }
 
 // From here on the range of the packing instructions is not that of the type: the values are moved there.
 
-template <class Line, class Round>
-ORBS_INLINE void DeliverLine(Orb16u* d, Line y, Round round) {
+template <Orb32s kMode, class Line>
+ORBS_INLINE void DeliverLine(Orb16u* d, Line y) {
   ORBS_UNROLL
   for (int i = 0; i < kLineBlock; i += I16::kLanes) {
     const I16 moved = PackFrom([&](int j) {
       const F32 limited = Min(F32::All(65535), Max(y(i + j), F32::Zero()));
-      return round(limited) - I32::All(32768);
+      return RoundToInts<kMode>(limited) - I32::All(32768);
     });
     (moved ^ I16::All(-32768)).Store(reinterpret_cast<Orb16s*>(d + i));
   }
 }
 
 // kUpper: the largest value of the type; kOrigin: what is added so that the range begins at 0.
-template <int kUpper, int kOrigin, class Line, class Round>
-ORBS_INLINE void DeliverBytes(Orb8u* d, Line y, Round round) {
+template <int kUpper, int kOrigin, Orb32s kMode, class Line>
+ORBS_INLINE void DeliverBytes(Orb8u* d, Line y) {
   const auto sixteenBits = [&](int i) {
-    const I16 packed = PackFrom([&](int j) { return round(Min(F32::All(kUpper), y(i + j))); });
+    const I16 packed = PackFrom([&](int j) { return RoundToInts<kMode>(Min(F32::All(kUpper), y(i + j))); });
     return packed + I16::All(kOrigin);
   };
   ORBS_UNROLL
@@ -75,48 +78,43 @@ ORBS_INLINE void DeliverBytes(Orb8u* d, Line y, Round round) {
   }
 }
 
-template <class Line, class Round>
-ORBS_INLINE void DeliverLine(Orb8u* d, Line y, Round round) {
-  DeliverBytes<255, 0>(d, y, round);
+template <Orb32s kMode, class Line>
+ORBS_INLINE void DeliverLine(Orb8u* d, Line y) {
+  DeliverBytes<255, 0, kMode>(d, y);
 }
 
-template <class Line, class Round>
-ORBS_INLINE void DeliverLine(Orb8s* d, Line y, Round round) {
-  DeliverBytes<127, 128>(reinterpret_cast<Orb8u*>(d), y, round);
+template <Orb32s kMode, class Line>
+ORBS_INLINE void DeliverLine(Orb8s* d, Line y) {
+  DeliverBytes<127, 128, kMode>(reinterpret_cast<Orb8u*>(d), y);
 }
 
-template <class Line, class Round>
-ORBS_INLINE void DeliverLine(Orb32s* d, Line y, Round round) {
+template <Orb32s kMode, class Line>
+ORBS_INLINE void DeliverLine(Orb32s* d, Line y) {
   ORBS_UNROLL
-  for (int i = 0; i < kLineBlock; i += I32::kLanes) {
-    const F32 value = y(i);
-    // 2^31-1 has no binary32 of its own: it is the complement of -2^31.
-    const I32 beyond = AsInt(LessEqual(F32::All(2147483648.0f), value));
-    (round(value) ^ beyond).Store(d + i);
-  }
+  for (int i = 0; i < kLineBlock; i += F32::kLanes) StoreSaturated<kMode>(d + i, y(i));
 }
 
-template <class Line, class Round>
-ORBS_INLINE void DeliverLine(Orb32u* d, Line y, Round round) {
+template <Orb32s kMode, class Line>
+ORBS_INLINE void DeliverLine(Orb32u* d, Line y) {
   const F32 half = F32::All(2147483648.0f);
   ORBS_UNROLL
   for (int i = 0; i < kLineBlock; i += I32::kLanes) {
     const F32 value = Max(y(i), F32::Zero());  // of a NaN too
     // The upper half of the range is converted from its distance to 2^31, which is exact.
     const F32 upper = LessEqual(half, value);
-    const I32 rounded = round(value - (upper & half)) ^ (AsInt(upper) & I32::All(INT32_MIN));
+    const I32 rounded = RoundToInts<kMode>(value - (upper & half)) ^ (AsInt(upper) & I32::All(INT32_MIN));
     const I32 beyond = AsInt(LessEqual(F32::All(4294967296.0f), value));
     (rounded | beyond).Store(reinterpret_cast<Orb32s*>(d + i));
   }
 }
 
 // Floating-point results are not rounded.
-template <class Result, class Line, class Round>
-ORBS_INLINE void DeliverLineRounded(Result* d, Line y, Round round) {
+template <Orb32s kMode, class Result, class Line>
+ORBS_INLINE void DeliverLineRounded(Result* d, Line y) {
   if constexpr (std::is_floating_point_v<Result>) {
     DeliverLine(d, y);
   } else {
-    DeliverLine(d, y, round);
+    DeliverLine<kMode>(d, y);
   }
 }
 
@@ -129,7 +127,7 @@ void FillRamp(Result* dst, Orb32s len, Orb32f offset, Orb32f slope) {
   GenerateBlocks<kLineBlock>(dst, len, [=](Result* d, Orb32s first) {
     const I32 index = I32::All(first) + LaneNumbers<I32>();
     const auto y = [=](int i) { return ToFloat(index + I32::All(i)) * rise + start; };
-    DeliverLineRounded(d, y, [](F32 value) { return RoundHalfAwayToInt(value); });
+    DeliverLineRounded<RoundHalfAway>(d, y);
   });
 }
 
@@ -142,8 +140,7 @@ inline void FillLine(Orb8s* dst, Orb32s len, Orb32f base, Orb32f slope) {
     F32 sum[kLineBlock / F32::kLanes];
     sum[0] = F32::All(static_cast<Orb32f>(base + static_cast<Orb64f>(slope) * first)) + lanes;
     ORBS_UNROLL for (int i = 1; i < kLineBlock / F32::kLanes; ++i) sum[i] = sum[i - 1] + step;
-    DeliverLine(
-        d, [&sum](int i) { return sum[i / F32::kLanes]; }, [](F32 value) { return RoundToInt(value); });
+    DeliverLine<RoundNear>(d, [&sum](int i) { return sum[i / F32::kLanes]; });
   });
 }
 

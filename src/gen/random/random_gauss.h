@@ -11,7 +11,7 @@
 
 namespace orbs::ORBS_VARIANT::gen {
 
-constexpr Orb64f kToUnit = 4.656612873077e-10;  // for 2^-31
+inline constexpr Orb64f kToUnit = 4.656612873077e-10;  // for 2^-31
 
 #if ORBS_VECTOR
 

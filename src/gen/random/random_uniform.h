@@ -4,6 +4,7 @@
 
 #include "core/checks.h"
 #include "gen/random/random_deliver.h"
+#include "gen/tuning.h"
 
 namespace orbs::ORBS_VARIANT::gen {
 
@@ -20,10 +21,6 @@ struct Range {
 };
 
 #if ORBS_VECTOR
-
-// 16-bit elements are converted in pairs, and the variants of the younger processors truncate one that is
-// alone at the end.
-constexpr bool kTruncatesLastOdd = kVariant >= Variant::s8;
 
 template <class Result>
 void FillUniform(Result* dst, Orb32s len, Range range, Orb32u* seed) {

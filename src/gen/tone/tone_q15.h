@@ -23,7 +23,7 @@ static_assert(sizeof(ToneState) == 48);
 
 namespace orbs::ORBS_VARIANT::gen {
 
-constexpr Orb32s kToneIdentity = 0x434D4148;  // H, A, M, C
+inline constexpr Orb32s kToneIdentity = 0x434D4148;  // H, A, M, C
 
 inline OrbStatus CheckParameters(Orb16s magn, Orb16s rFreqQ15, Orb32s phaseQ15) {
   if (magn <= 0) return StatusToneMagnitude;

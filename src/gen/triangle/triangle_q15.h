@@ -27,7 +27,7 @@ static_assert(sizeof(TriangleState) == 136);
 
 namespace orbs::ORBS_VARIANT::gen {
 
-constexpr Orb32s kTriangleIdentity = 0x434D4149;  // I, A, M, C
+inline constexpr Orb32s kTriangleIdentity = 0x434D4149;  // I, A, M, C
 
 inline OrbStatus CheckParameters(Orb16s magn, Orb16s rFreqQ15, Orb32s phaseQ15, Orb32s asymQ15) {
   if (magn <= 0) return StatusTriangleMagnitude;

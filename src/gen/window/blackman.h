@@ -10,7 +10,7 @@
 
 namespace orbs::ORBS_VARIANT::gen {
 
-constexpr Orb64f kTwoPi = 6.283185307179586;
+inline constexpr Orb64f kTwoPi = 6.283185307179586;
 
 #if ORBS_VECTOR
 

@@ -13,10 +13,10 @@ namespace orbs::ORBS_VARIANT::gen {
 
 // I0(x) by Abramowitz and Stegun: below kBranch a polynomial in (x / 3.75)^2, from there on exp(x) / sqrt(x)
 // times a polynomial in 3.75 / x.
-constexpr Orb64f kBranch = 3.75;
-constexpr Orb64f kSmall[7] = {1, 3.5156229, 3.0899424, 1.2067492, 0.2659732, 0.0360768, 0.0045813};
-constexpr Orb64f kLarge[9] = {0.39894228,  0.01328592, 0.00225319,  -0.00157565, 0.00916281,
-                              -0.02057706, 0.02635537, -0.01647633, 0.00392377};
+inline constexpr Orb64f kBranch = 3.75;
+inline constexpr Orb64f kSmall[7] = {1, 3.5156229, 3.0899424, 1.2067492, 0.2659732, 0.0360768, 0.0045813};
+inline constexpr Orb64f kLarge[9] = {0.39894228,  0.01328592, 0.00225319,  -0.00157565, 0.00916281,
+                                     -0.02057706, 0.02635537, -0.01647633, 0.00392377};
 
 template <int kCount>
 Orb64f Polynomial(const Orb64f (&coefficients)[kCount], Orb64f x) {

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 
+#include "core/complex.h"
 #include "core/variant.h"
 #include "orbs90lgc/types.h"
 
@@ -17,36 +18,16 @@ enum class SpectrumLayout { perm, pack, ccs };
 
 // A complex number in the type of evaluation.
 template <class T>
-struct Value {
-  Wide<T> re;
-  Wide<T> im;
-};
+using Value = Complex<Wide<T>>;
 
-template <class T>
-ORBS_INLINE Value<T> operator+(Value<T> a, Value<T> b) {
-  return {a.re + b.re, a.im + b.im};
-}
-template <class T>
-ORBS_INLINE Value<T> operator-(Value<T> a, Value<T> b) {
-  return {a.re - b.re, a.im - b.im};
-}
-template <class T>
-ORBS_INLINE Value<T> operator*(Value<T> a, Value<T> b) {
-  return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
-}
-template <class T>
-ORBS_INLINE Value<T> Times(Value<T> a, Wide<T> factor) {
-  return {a.re * factor, a.im * factor};
-}
 // a times w in the forward direction, a times the conjugate of w in the inverse one.
-template <bool kForward, class T>
-ORBS_INLINE Value<T> Turn(Value<T> a, Value<T> w) {
-  if constexpr (!kForward) w.im = -w.im;
-  return a * w;
+template <bool kForward, class W>
+ORBS_INLINE Complex<W> Turn(Complex<W> a, Complex<W> w) {
+  return a * (kForward ? w : Conjugate(w));
 }
 // a times -i in the forward direction, times i in the inverse one.
-template <bool kForward, class T>
-ORBS_INLINE Value<T> QuarterTurn(Value<T> a) {
+template <bool kForward, class W>
+ORBS_INLINE Complex<W> QuarterTurn(Complex<W> a) {
   if constexpr (kForward) {
     return {a.im, -a.re};
   } else {

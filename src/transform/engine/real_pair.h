@@ -14,40 +14,40 @@
 namespace orbs::ORBS_VARIANT::transform {
 
 // `entry` is 0.5 cos a, 0.5 - 0.5 sin a: the halves are in it.
-template <class T>
-ORBS_INLINE void RealPairForward(Value<T>* zk, Value<T>* zm, Value<T> entry) {
-  const Value<T> a = *zk;
-  const Value<T> b = *zm;
-  const Wide<T> d = a.re - b.re;
-  const Wide<T> e = a.im + b.im;
-  const Wide<T> t = entry.re * e + entry.im * d;
-  const Wide<T> u = entry.im * e - entry.re * d;
+template <class W>
+ORBS_INLINE void RealPairForward(Complex<W>* zk, Complex<W>* zm, Complex<W> entry) {
+  const Complex<W> a = *zk;
+  const Complex<W> b = *zm;
+  const W d = a.re - b.re;
+  const W e = a.im + b.im;
+  const W t = entry.re * e + entry.im * d;
+  const W u = entry.im * e - entry.re * d;
   *zk = {b.re + t, u - b.im};
   *zm = {a.re - t, u - a.im};
 }
 
 // `w` is cos a, -sin a.
-template <class T>
-ORBS_INLINE void RealPairForwardByTwiddle(Value<T>* zk, Value<T>* zm, Value<T> w) {
-  const Value<T> conjugate = {zm->re, -zm->im};
-  const Value<T> a = Times(*zk + conjugate, Wide<T>(0.5));
-  const Value<T> b = Times(*zk - conjugate, Wide<T>(0.5));
-  const Value<T> c = QuarterTurn<true>(w * b);
+template <class W>
+ORBS_INLINE void RealPairForwardByTwiddle(Complex<W>* zk, Complex<W>* zm, Complex<W> w) {
+  const Complex<W> conjugate = Conjugate(*zm);
+  const Complex<W> a = Times(*zk + conjugate, W(0.5));
+  const Complex<W> b = Times(*zk - conjugate, W(0.5));
+  const Complex<W> c = QuarterTurn<true>(w * b);
   *zk = a + c;
   *zm = {a.re - c.re, c.im - a.im};
 }
 
 // `entry` is cos a, -sin a.
-template <class T>
-ORBS_INLINE void RealPairInverse(Value<T>* xk, Value<T>* xm, Value<T> entry) {
-  const Value<T> a = *xk;
-  const Value<T> b = *xm;
-  const Wide<T> p = a.re + b.re;
-  const Wide<T> q = a.im - b.im;
-  const Wide<T> d = a.re - b.re;
-  const Wide<T> e = a.im + b.im;
-  const Wide<T> t = entry.im * d - entry.re * e;
-  const Wide<T> u = entry.re * d + entry.im * e;
+template <class W>
+ORBS_INLINE void RealPairInverse(Complex<W>* xk, Complex<W>* xm, Complex<W> entry) {
+  const Complex<W> a = *xk;
+  const Complex<W> b = *xm;
+  const W p = a.re + b.re;
+  const W q = a.im - b.im;
+  const W d = a.re - b.re;
+  const W e = a.im + b.im;
+  const W t = entry.im * d - entry.re * e;
+  const W u = entry.re * d + entry.im * e;
   *xk = {p + t, q + u};
   *xm = {p - t, u - q};
 }

@@ -17,8 +17,8 @@
 
 namespace orbs::ORBS_VARIANT::transform {
 
-template <class T>
-ORBS_INLINE Value<T> SumAndDifference(Value<T> pair) {
+template <class W>
+ORBS_INLINE Complex<W> SumAndDifference(Complex<W> pair) {
   return {pair.re + pair.im, pair.re - pair.im};
 }
 
@@ -72,7 +72,7 @@ void FFTRealSplitInv(const T* src, T* dst, int order, const T* table) {
   }
   dst[half] = 2 * src[half];
   dst[half + 1] = -2 * src[half + 1];
-  Put(z, 0, SumAndDifference<T>({ends.first, ends.last}));
+  Put(z, 0, SumAndDifference(Value<T>{ends.first, ends.last}));
 }
 
 }  // namespace orbs::ORBS_VARIANT::transform

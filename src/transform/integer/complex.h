@@ -6,7 +6,7 @@
 #include "core/work_buffer.h"
 #include "transform/engine/codelets.h"
 #include "transform/integer/convert.h"
-#include "transform/integer/fixed.h"
+#include "transform/integer/fixed/fixed.h"
 #include "transform/integer/plan.h"
 #if ORBS_VECTOR
 #include "transform/engine/vector/between.h"

@@ -10,7 +10,7 @@
 
 namespace orbs::ORBS_VARIANT::transform {
 
-constexpr Orb32s kLargestOrder = 30;  // of any kind; the nested plans know their own
+inline constexpr Orb32s kLargestOrder = 30;  // of any kind; the nested plans know their own
 
 ORBS_INLINE bool IsOrder(Orb32s order) { return order >= 0 && order <= kLargestOrder; }
 

@@ -8,7 +8,7 @@
 #include "core/record.h"
 #include "transform/engine/tables/bit_reversal.h"
 #include "transform/engine/tables/tables.h"
-#include "transform/integer/fixed.h"
+#include "transform/integer/fixed/fixed.h"
 #include "transform/integer/plan.h"
 
 namespace orbs::ORBS_VARIANT::transform {

@@ -5,7 +5,7 @@
 #include "core/checks.h"
 #include "core/work_buffer.h"
 #include "transform/integer/convert.h"
-#include "transform/integer/fixed.h"
+#include "transform/integer/fixed/fixed.h"
 #include "transform/integer/plan.h"
 #include "transform/spectrum/layouts.h"
 #if ORBS_VECTOR

@@ -3,6 +3,8 @@
 #ifndef ORBS_TRANSFORM_ENGINE_PX_STRAIGHT_H
 #define ORBS_TRANSFORM_ENGINE_PX_STRAIGHT_H
 
+#include <type_traits>
+
 #include "core/unrolled.h"
 #include "core/variant.h"
 #include "transform/engine/data.h"
@@ -48,13 +50,13 @@ ORBS_INLINE Value<T> TurnBy(Value<T> a) {
 
 struct Unscaled {};
 
-template <class T>
-ORBS_INLINE Value<T> Scale(Value<T> a, Unscaled) {
-  return a;
-}
-template <class T>
-ORBS_INLINE Value<T> Scale(Value<T> a, T scale) {
-  return Times(a, Wide<T>(scale));
+template <class W, class ScaleType>
+ORBS_INLINE Complex<W> Scale(Complex<W> a, [[maybe_unused]] ScaleType scale) {
+  if constexpr (std::is_same_v<ScaleType, Unscaled>) {
+    return a;
+  } else {
+    return Times(a, W(scale));
+  }
 }
 
 template <bool kForward, Index n, class T, class ScaleType>
@@ -86,8 +88,8 @@ ORBS_INLINE void TransformInLine(const Value<T>* x, Value<T>* y, ScaleType scale
     Unrolled<n / 4>([&](auto i) {
       const Value<T> d = Scale(x[i] - x[i + n / 2], scale);
       const Value<T> v = QuarterTurn<kForward>(Scale(x[i + n / 4] - x[i + 3 * n / 4], scale));
-      first[i] = TurnBy<kForward, static_cast<int>(i), n>(d + v);
-      third[i] = TurnBy<kForward, static_cast<int>(3 * i), n>(d - v);
+      first[i] = TurnBy<kForward, static_cast<int>(i), n, T>(d + v);
+      third[i] = TurnBy<kForward, static_cast<int>(3 * i), n, T>(d - v);
     });
     Value<T> even[n / 2];
     StraightTransform<kForward, n / 2, T>(sums, even, Unscaled{});

@@ -1,10 +1,10 @@
 // The fixed-point transform in px, decimation in frequency with radix 4, and the split of real spectra in all
 // variants.
-#include "transform/integer/fixed.h"
+#include "transform/integer/fixed/fixed.h"
 
 #include "transform/engine/tables/bit_reversal.h"
 #if ORBS_VECTOR
-#include "transform/integer/fixed_vector.h"
+#include "transform/integer/fixed/fixed_vector.h"
 #endif
 
 namespace orbs::ORBS_VARIANT::transform {

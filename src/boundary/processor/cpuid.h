@@ -1,7 +1,7 @@
 // Where processor identification comes from. The library reads the processor; a test reads a table of its
 // own.
-#ifndef ORBS_BOUNDARY_CPUID_H
-#define ORBS_BOUNDARY_CPUID_H
+#ifndef ORBS_BOUNDARY_PROCESSOR_CPUID_H
+#define ORBS_BOUNDARY_PROCESSOR_CPUID_H
 
 #include <cstdint>
 

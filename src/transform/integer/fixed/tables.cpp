@@ -1,7 +1,7 @@
 // The tables of the fixed-point transform.
 #include "transform/engine/tables/circle.h"
 #include "transform/engine/tables/sine.h"
-#include "transform/integer/fixed.h"
+#include "transform/integer/fixed/fixed.h"
 
 namespace orbs::ORBS_VARIANT::transform {
 namespace {

@@ -1,4 +1,4 @@
-#include "boundary/cpuid.h"
+#include "boundary/processor/cpuid.h"
 
 #include <cpuid.h>
 #include <x86intrin.h>

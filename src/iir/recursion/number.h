@@ -1,6 +1,6 @@
 // A real or complex number of scalar code: real filters and complex ones are written once.
-#ifndef ORBS_IIR_NUMBER_H
-#define ORBS_IIR_NUMBER_H
+#ifndef ORBS_IIR_RECURSION_NUMBER_H
+#define ORBS_IIR_RECURSION_NUMBER_H
 
 #include "core/parts.h"
 #include "core/variant.h"

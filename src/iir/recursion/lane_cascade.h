@@ -9,11 +9,11 @@
 // with the results y' and y'' of the last two steps. There is no look-ahead in this: sections enough fill the
 // vectors. While the first samples go up the lanes, and the last ones leave them, the sections without a
 // sample keep what they have.
-#ifndef ORBS_IIR_LANE_CASCADE_H
-#define ORBS_IIR_LANE_CASCADE_H
+#ifndef ORBS_IIR_RECURSION_LANE_CASCADE_H
+#define ORBS_IIR_RECURSION_LANE_CASCADE_H
 
 #include "core/unrolled.h"
-#include "iir/number.h"
+#include "iir/recursion/number.h"
 #include "simd/lanes.h"
 
 #if ORBS_VECTOR

@@ -1,10 +1,10 @@
 // What the processor can do, and which variant that earns.
-#ifndef ORBS_BOUNDARY_PROCESSOR_H
-#define ORBS_BOUNDARY_PROCESSOR_H
+#ifndef ORBS_BOUNDARY_PROCESSOR_PROCESSOR_H
+#define ORBS_BOUNDARY_PROCESSOR_PROCESSOR_H
 
 #include <cstdint>
 
-#include "boundary/cpuid.h"
+#include "boundary/processor/cpuid.h"
 #include "core/variants.h"
 #include "orbs90lgc/types.h"
 

@@ -1,11 +1,11 @@
 // The fixed-point transform of 2, 4 and 8 points in 128-bit registers: no larger one takes that path in the
 // vector variants. Straight code from the loads to the stores, bit reversal and reversal included; every
 // product is that of MulQ14, so that the results are those of px.
-#ifndef ORBS_TRANSFORM_INTEGER_FIXED_VECTOR_H
-#define ORBS_TRANSFORM_INTEGER_FIXED_VECTOR_H
+#ifndef ORBS_TRANSFORM_INTEGER_FIXED_FIXED_VECTOR_H
+#define ORBS_TRANSFORM_INTEGER_FIXED_FIXED_VECTOR_H
 
 #include "simd/simd.h"
-#include "transform/integer/fixed.h"
+#include "transform/integer/fixed/fixed.h"
 
 namespace orbs::ORBS_VARIANT::transform {
 

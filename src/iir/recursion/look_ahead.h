@@ -12,8 +12,8 @@
 //
 // The orders 1 and 2, and so all biquads, have everything in registers. They take two vectors a round: the
 // second has its rows too, so that one wait for a sum yields 2 R results.
-#ifndef ORBS_IIR_LOOK_AHEAD_H
-#define ORBS_IIR_LOOK_AHEAD_H
+#ifndef ORBS_IIR_RECURSION_LOOK_AHEAD_H
+#define ORBS_IIR_RECURSION_LOOK_AHEAD_H
 
 #include <cstring>
 

@@ -1,4 +1,4 @@
-#include "boundary/processor.h"
+#include "boundary/processor/processor.h"
 
 #include <atomic>
 

@@ -1,10 +1,10 @@
 // From the caller's coefficients to those of a state: normalised by the leading denominator coefficient, with
 // the tables that follow from them.
-#ifndef ORBS_IIR_COEFFICIENTS_H
-#define ORBS_IIR_COEFFICIENTS_H
+#ifndef ORBS_IIR_RECURSION_COEFFICIENTS_H
+#define ORBS_IIR_RECURSION_COEFFICIENTS_H
 
 #include "iir/layout.h"
-#include "iir/number.h"
+#include "iir/recursion/number.h"
 
 namespace orbs::ORBS_VARIANT::iir {
 

@@ -2,8 +2,8 @@
 //
 // The data come with enough headroom that the sums of a forward transform stay inside 32 bits; an inverse one
 // can be handed spectra that no signal has, hence unsigned arithmetic everywhere.
-#ifndef ORBS_TRANSFORM_INTEGER_FIXED_H
-#define ORBS_TRANSFORM_INTEGER_FIXED_H
+#ifndef ORBS_TRANSFORM_INTEGER_FIXED_FIXED_H
+#define ORBS_TRANSFORM_INTEGER_FIXED_FIXED_H
 
 #include "core/scaling.h"
 #include "core/variant.h"

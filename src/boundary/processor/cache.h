@@ -1,10 +1,10 @@
 // The size of the largest data or unified cache, for fills that should not pass through it.
-#ifndef ORBS_BOUNDARY_CACHE_H
-#define ORBS_BOUNDARY_CACHE_H
+#ifndef ORBS_BOUNDARY_PROCESSOR_CACHE_H
+#define ORBS_BOUNDARY_PROCESSOR_CACHE_H
 
 #include <cstdint>
 
-#include "boundary/cpuid.h"
+#include "boundary/processor/cpuid.h"
 #include "orbs90lgc/types.h"
 
 namespace orbs {

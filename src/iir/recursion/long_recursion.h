@@ -9,8 +9,8 @@
 // the round alone, so that one wait for a sum yields all of them. Where two vectors have more results than
 // the table has, the rest of each row is made at the start: a step from the last column on is
 //   T[k][i+e] = T[1][i] T[k][e-1] + ... + T[e][i] T[k][0] + T[k+e][i]
-#ifndef ORBS_IIR_LONG_RECURSION_H
-#define ORBS_IIR_LONG_RECURSION_H
+#ifndef ORBS_IIR_RECURSION_LONG_RECURSION_H
+#define ORBS_IIR_RECURSION_LONG_RECURSION_H
 
 #include <cstring>
 

@@ -5,12 +5,12 @@
 //
 // px evaluates each line in extended precision and rounds what it stores in the delay line; y goes on to the
 // recursion, to the next section and to delivery unrounded.
-#ifndef ORBS_IIR_STEP_H
-#define ORBS_IIR_STEP_H
+#ifndef ORBS_IIR_RECURSION_STEP_H
+#define ORBS_IIR_RECURSION_STEP_H
 
 #include "core/scaling.h"
 #include "iir/layout.h"
-#include "iir/number.h"
+#include "iir/recursion/number.h"
 #include "simd/lanes.h"
 
 namespace orbs::ORBS_VARIANT::iir {

@@ -1,8 +1,8 @@
-#include "boundary/cache.h"
+#include "boundary/processor/cache.h"
 
 #include <atomic>
 
-#include "boundary/processor.h"
+#include "boundary/processor/processor.h"
 #include "orbs90lgc/status.h"
 
 namespace orbs {
