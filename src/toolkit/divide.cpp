@@ -30,7 +30,7 @@ bool DivElements(const T* divisor, const T* dividend, T* dst, size_t n) {
         const Vector x = Vector::Load(b);
         const Vector divisorZero = Equal(x, Vector::Zero());
         Vector quotient = y / x;
-        // Rare, and three times the work of the division's neighbours.
+        // Out of line: rare, and three times the work of what stands around a division.
         if (__builtin_expect(SignBits(divisorZero) != 0, 0)) {
           anyZero = true;
           // A divisor of -0 counts as 0: the sign is the dividend's alone.

@@ -18,14 +18,14 @@ OrbStatus CheckStep(const Sample* output, const Tap* taps, Orb32s tapCount, cons
   return StatusOk;
 }
 
-// What px delivers of the plain rule has its fraction cut off.
+// px truncates the result of the plain rule.
 template <class Sum>
 Orb16s DeliverSum(Sum y) {
   return kIsPx ? ClampAndConvert<Orb16s>(y, [](Sum v) { return TruncateToInt(v); })
                : FloatNearEven<Orb16s>(y);
 }
 
-// px has rounded by now.
+// In px y is an integer already.
 template <class Sum>
 Orb16s DeliverQ15(Sum y) {
   if constexpr (kIsPx) {

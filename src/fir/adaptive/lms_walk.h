@@ -7,7 +7,7 @@
 // below that the last one alone, with zeros in front, put together lane by lane.
 //
 // The newest sample, its last lane, comes from the argument and not from the ring: a load of a vector must
-// wait until a single element stored just before has reached the cache, and with it would wait the output.
+// wait until a single element stored just before has reached the cache, and the output with it.
 #ifndef ORBS_FIR_ADAPTIVE_LMS_WALK_H
 #define ORBS_FIR_ADAPTIVE_LMS_WALK_H
 

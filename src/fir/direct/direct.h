@@ -125,7 +125,8 @@ void DirectBlock(const Arithmetic& filter, const Data* src, Data* dst, int64_t c
     return;
   }
   // A step takes the samples from the upper half until the index wraps, and from the lower half after that.
-  // If the caller has filled the two with different numbers, only steps give what that means.
+  // Where the caller has filled the halves with different numbers, a block would read other samples than
+  // steps do: such a ring is walked in steps.
   const auto stale = static_cast<size_t>(*ring.index) * sizeof(Data);
   if (count < kDirectFewOutputs || std::memcmp(ring.line, ring.line + ring.n, stale) != 0) {
     DirectSteps(filter, src, dst, count, ring);

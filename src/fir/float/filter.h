@@ -77,8 +77,8 @@ OrbStatus Filter(const typename Kind::Data* src, typename Kind::Data* dst, Orb32
                  Orb32s scaleFactor = 0) {
   ORBS_RETURN_IF_BAD(CheckState(state, Kind::kId, count, src, dst));
   const FloatEngine<Kind> engine{{state}, scaleFactor};
-  const auto byTransform = [&](Orb32s deciding) {
-    return engine.HasFft() && deciding >= kFftFromSamples<Kind::kComplex>;
+  const auto byTransform = [&](Orb32s samples) {
+    return engine.HasFft() && samples >= kFftFromSamples<Kind::kComplex>;
   };
   if constexpr (!Kind::kWidens) {
     if (src != dst) {

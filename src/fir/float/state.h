@@ -51,8 +51,9 @@ void WidenSamples(const typename Kind::Data* src, typename Kind::Tap* dst, Orb32
 template <class To, class From>
 To ConvertPart(From x) {
   if constexpr (std::is_integral_v<To> && std::is_floating_point_v<From>) {
-    // Whole numbers of the data type, unless taps that never were integers are asked for as integers: what
-    // has no 32-bit integer gives the lower bound, as the processor's own conversion does.
+    // Integer data come back as the whole numbers that they are. Taps that never were integers may be asked
+    // for as integers too: what has no 32-bit integer gives the lower bound, as the processor's own
+    // conversion does.
     const bool inRange = x > From(-2147483648.0) - From(1) && x < From(2147483648.0);
     return static_cast<To>(inRange ? static_cast<Orb32s>(x) : INT32_MIN);
   } else {
@@ -94,7 +95,7 @@ OrbStatus StoreTaps(FirView<Kind> view, const Given* taps) {
   if constexpr (std::is_same_v<typename Kind::Tap, Orb32f>) {
     if (Orb64f* precise = state->preciseTaps.In(state)) ReverseConvert(taps, precise, n);
   }
-  // A plan means a threshold reached; what a failed transform has once left is not tried again.
+  // A state below the threshold has no plan, and one whose transform has failed does not try again.
   if (state->fftSpec.bytes == 0 || state->fftLen < 1) return StatusOk;
   auto* const spectrum = view.Spectrum();
   CopyConvert(taps, spectrum, n);
@@ -117,8 +118,8 @@ void StoreDelay(FirView<Kind> view, const typename Kind::Data* delayLine) {
 
 // ---- Building ----
 
-// In a block that is large enough. A plan or transform that fails leaves a state without FFT path, and is
-// told.
+// In a block that is large enough. If the plan or the transform of the taps fails, the state works without
+// its FFT path, and the status says so.
 template <class Kind, class Given>
 OrbStatus Build(FIRFloatState* state, const Given* taps, Orb32s n, const typename Kind::Data* delayLine,
                 const FirFftSizes& fft) {

@@ -133,7 +133,7 @@ class RandomBlock {
   ORBS_INLINE I32 Words(int i) const { return I32::Load(reinterpret_cast<const Orb32s*>(words_) + i); }
 
   // A borrow turns the sign of a difference only if that is 0 or -2^31: once in two thousand million steps.
-  // What lies beyond `count` may say so too, for nothing.
+  // Numbers beyond `count` may report one too: the exact chain then runs without need.
   ORBS_INLINE bool BorrowsDepend(int count) const {
     I32 found = I32::Zero();
     for (int i = 0; i < count; i += I32::kLanes) {

@@ -33,8 +33,8 @@ class LaneCascade {
   static constexpr Orb32s kFill = kLaneLag * (kSections - 1);
 
   // Up to kSections sections with their taps t and delay elements d. Lanes without a section pass on what
-  // they get; they are the first ones, where input is finite: of an infinite number their products with 0
-  // would make what is no number.
+  // they get; they are the first ones, since the filter's input is finite: an infinite result of a section
+  // times their zeros would be NaN.
   ORBS_INLINE LaneCascade(const Work* t, const Work* d, Orb32s sectionCount) {
     const Orb32s empty = kSections - sectionCount;
     Orb32f coefficient[5][2][F32::kLanes] = {};

@@ -126,7 +126,7 @@ class LongRecursion {
   }
 
   ORBS_INLINE Past MakeRound(Past past, const Orb32f* w, Orb64f* now, Orb32f* y) const {
-    // After silence, the first vector and then the second, which the first one reaches.
+    // From a zero state: the first vector, then the second, which the first one reaches.
     F64 w0;
     F64 w1;
     LoadWiden(w, &w0);

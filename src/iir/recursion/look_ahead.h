@@ -2,9 +2,9 @@
 //
 // Written out, a vector of R results depends on the N results before it and on its own w alone:
 //   (y[n], ..., y[n+R-1]) = v + y[n-1] T[1] + ... + y[n-N] T[N]
-// with the rows T of the look-ahead table, and with v the results that the same w would give after silence.
-// v carries no recursion from vector to vector, so that only the sum over the rows stands in the way of the
-// next vector.
+// with the rows T of the look-ahead table, and with v the results that the same w would give from a zero
+// state. v carries no recursion from vector to vector, so that only the sum over the rows stands in the way
+// of the next vector.
 //
 // v itself is made in steps. Within a quarter register (four parts) w[0] reaches the elements after it by
 // T[1] moved up by one, w[1] by T[1] moved up by two, and so on. Then the results of the low quarter reach
@@ -35,14 +35,15 @@ using RowFactor = Factor<F32, kParts>;
 template <int kParts>
 using RowSum = ProductSum<F32, kParts>;
 
-// What turns w into v. kReach rows, as many as the order, reach from the low quarter into the high one.
+// Turns w into v, the response of a recursion that starts from zeros. kReach rows, as many as the order,
+// reach from the low quarter into the high one.
 template <int kParts, int kReach>
-class Silence {
+class ZeroStateResponse {
  public:
   static constexpr int kElements = kQuarterParts / kParts;
 
   // rows: T[1] to T[kReach].
-  ORBS_INLINE explicit Silence(const F32 (&rows)[kReach]) {
+  ORBS_INLINE explicit ZeroStateResponse(const F32 (&rows)[kReach]) {
     Orb32f moved[kQuarterParts + kVectorParts] = {};
     rows[0].Store(moved + kQuarterParts);
     Unrolled<kElements - 1>(
@@ -95,7 +96,7 @@ class ShortRecursion {
       F32 w = Numerator(u + i);
       const size_t n = end - i;
       if (n < kVector) w = FirstLanes(w, n);
-      const F32 result = AddPast(silence_.Across(silence_.Within(w)), rows_.near);
+      const F32 result = AddPast(response_.Across(response_.Within(w)), rows_.near);
       newest_ = result;
       if (n >= kVector) {
         result.Store(y + i);
@@ -125,10 +126,13 @@ class ShortRecursion {
       if constexpr (kPairing == 1) plain[0] = near[0] - near[1];
       if constexpr (kPairing == -1) plain[0] = near[0] + near[1];
     }
-    ORBS_INLINE Silence<kParts, kOrder> MakeSilence() const { return Silence<kParts, kOrder>(plain); }
+    ORBS_INLINE ZeroStateResponse<kParts, kOrder> MakeResponse() const {
+      return ZeroStateResponse<kParts, kOrder>(plain);
+    }
   };
 
-  ORBS_INLINE ShortRecursion(const Orb32f* b, const Rows& rows) : rows_(rows), silence_(rows.MakeSilence()) {
+  ORBS_INLINE ShortRecursion(const Orb32f* b, const Rows& rows)
+      : rows_(rows), response_(rows.MakeResponse()) {
     Unrolled<kOrder + 1>([&](auto k) { b_[k] = RowFactor<kParts>::Load(b + k * kParts); });
   }
 
@@ -171,11 +175,11 @@ class ShortRecursion {
     F32 second;
   };
   ORBS_INLINE Round Begin(const Orb32f* u) const {
-    return {silence_.Within(Numerator(u)), silence_.Within(Numerator(u + kVectorParts))};
+    return {response_.Within(Numerator(u)), response_.Within(Numerator(u + kVectorParts))};
   }
   ORBS_INLINE Round Complete(Round round) const {
-    const F32 first = silence_.Across(round.first);
-    auto second = RowSum<kParts>::From(silence_.Across(round.second));
+    const F32 first = response_.Across(round.first);
+    auto second = RowSum<kParts>::From(response_.Across(round.second));
     Unrolled<kOrder>([&](auto k) {
       second.Add(RowFactor<kParts>::template Of<kElements - 1 - k>(first), rows_.plain[k]);
     });
@@ -207,7 +211,7 @@ class ShortRecursion {
   }
 
   Rows rows_;
-  Silence<kParts, kOrder> silence_;
+  ZeroStateResponse<kParts, kOrder> response_;
   RowFactor<kParts> b_[kOrder + 1];
   F32 newest_;
 };
