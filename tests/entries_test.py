@@ -19,22 +19,22 @@ def misplaced(entries, all_cases, left_out):
     """The cases that are not in exactly one entry; those of variants that the build leaves out need not be in any."""
     places = collections.defaultdict(list)
     for entry in entries:
-        for case in entry.cases:
+        for case in entry.cases or ():
             places[entry.program, case].append(entry.name)
-    return [(program[-1], case, places[program, case]) for program in {entry.program for entry in entries if entry.cases}
+    return [(program[-1], case, places[program, case]) for program in {entry.program for entry in entries if entry.cases is not None}
             for case in all_cases(program)
             if len(places[program, case]) != 1 and not (not places[program, case] and case.endswith(left_out))]
 
 
 def entry(name, *cases, program=('p',)):
-    return run_tests.Entry(name, program, {}, cases)
+    return run_tests.Entry(name, program, {}, cases or None)
 
 
 class Entries(unittest.TestCase):
     def test_every_case_is_in_exactly_one_entry(self):
         left_out = tuple(f'/{variant}' for variant in ALL_VARIANTS if variant not in VARIANTS)
         entries = list(run_tests.entries(['--test-dir', BUILD]))
-        self.assertGreater(sum(len(entry.cases) for entry in entries), 100)
+        self.assertGreater(sum(len(entry.cases or ()) for entry in entries), 100)
         self.assertEqual(misplaced(entries, run_tests.cases_of_program, left_out), [])
 
     def test_planted_faults_are_found(self):
@@ -44,6 +44,8 @@ class Entries(unittest.TestCase):
         self.assertEqual(misplaced(entries, lambda _: all_cases + ('T.y',), ('/w7',)), [('p', 'T.y', [])])
         self.assertEqual(misplaced(entries + [entry('b.h9', 'A/T.x/h9')], lambda _: all_cases, ('/w7',)),
                          [('p', 'A/T.x/h9', ['a.h9', 'b.h9'])])
+        empty = run_tests.Entry('a.px', ('p',), {}, ())
+        self.assertEqual(misplaced([empty], lambda _: all_cases[:1], ('/w7',)), [('p', 'A/T.x/px', [])])
 
 
 class Selection(unittest.TestCase):

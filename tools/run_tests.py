@@ -39,14 +39,14 @@ def parse_listing(listing):
 
 @dataclass
 class Entry:
-    """An entry of ctest. A program without cases is one that is not of GoogleTest."""
+    """An entry of ctest; without cases, None, if it is no GoogleTest program."""
     name: str
     program: tuple
     environment: dict
     cases: tuple
 
     def names(self):
-        return [f'{self.name} {case}' for case in self.cases] or [self.name]
+        return [self.name] if self.cases is None else [f'{self.name} {case}' for case in self.cases]
 
 
 def entries(ctest_arguments):
@@ -56,7 +56,7 @@ def entries(ctest_arguments):
         command = test.get('command', [])
         program = tuple(word for word in command if not word.startswith('--gtest_'))
         environment = next((item['value'] for item in test['properties'] if item['name'] == 'ENVIRONMENT'), [])
-        cases = ()
+        cases = None
         if len(program) < len(command):
             patterns = [word.split('=', 1)[1] for word in command if word.startswith('--gtest_filter=')] or ['*']
             cases = tuple(case for case in cases_of_program(program) if fnmatch.fnmatchcase(case, patterns[0]))
@@ -70,7 +70,7 @@ def select(all_entries, expression, variant):
     whole, parts = [], []
     for entry in all_entries:
         fits = [pattern.search(name) is not None and of_variant.search(name) is not None for name in entry.names()]
-        if all(fits):
+        if fits and all(fits):
             whole.append(entry.name)
         elif any(fits):
             parts.append((entry, [case for case, fit in zip(entry.cases, fits) if fit]))
