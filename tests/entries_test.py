@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every case of the GoogleTest programs is run by exactly one entry of ctest; and what the selection of tests makes of names.
+"""Every case of the GoogleTest programs is run by exactly one entry of ctest; and how tests are selected by name.
 
 usage: entries_test.py TOOLS_DIR BUILD_DIR VARIANT...
 """
@@ -21,9 +21,13 @@ def misplaced(entries, all_cases, left_out):
     for entry in entries:
         for case in entry.cases or ():
             places[entry.program, case].append(entry.name)
-    return [(program[-1], case, places[program, case]) for program in {entry.program for entry in entries if entry.cases is not None}
-            for case in all_cases(program)
-            if len(places[program, case]) != 1 and not (not places[program, case] and case.endswith(left_out))]
+    faults = []
+    for program in {entry.program for entry in entries if entry.cases is not None}:
+        for case in all_cases(program):
+            found = places[program, case]
+            if len(found) > 1 or (not found and not case.endswith(left_out)):
+                faults.append((program[-1], case, found))
+    return faults
 
 
 def entry(name, *cases, program=('p',)):
@@ -66,7 +70,7 @@ class Selection(unittest.TestCase):
         self.assertEqual(self.selected('Tone', 'w7'), ([], []))
 
     def test_the_listing_of_a_program(self):
-        listing = 'Running main() from x\nA/FmTest.\n  Tone/h9  # GetParam() = 4-byte object <06-00>\nOffset.\n  Leads\n'
+        listing = 'Running main() from x\nA/FmTest.\n  Tone/h9  # GetParam() = <06-00>\nOffset.\n  Leads\n'
         self.assertEqual(run_tests.parse_listing(listing), ('A/FmTest.Tone/h9', 'Offset.Leads'))
 
 

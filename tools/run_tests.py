@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Runs those of a build's tests that a regular expression and a variant name.
 
-What is matched, in any case, is the name of an entry of ctest and, where the entry is a GoogleTest program, each case of it:
+Matched, in upper or lower case, is the name of an entry of ctest, with each case of it where it is a GoogleTest program:
 
   modem.h9 AllVariants/GoertzelTest.Tone/h9
 
