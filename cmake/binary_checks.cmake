@@ -5,6 +5,11 @@
 if(CMAKE_CXX_FLAGS MATCHES "-fsanitize|--coverage|-fprofile-arcs")
   return()
 endif()
+# Without optimization the compiler clears no upper halves, and what it does not inline of the standard library lies in every
+# object. Such a build runs on the machine of who debugs it, where the variants may share what they like.
+if(ORBS_OPTIMIZATION STREQUAL "-O0")
+  return()
+endif()
 
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 find_path(ORBS_ZYDIS_INCLUDE_DIR Zydis/Zydis.h)

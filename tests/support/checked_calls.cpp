@@ -65,8 +65,16 @@ bool CanAskForUpperHalves() {
 
 const bool canAskForUpperHalves = CanAskForUpperHalves();
 
+// Without optimization the compiler does not clear them.
+#ifdef ORBS_UPPER_HALVES_STAY
+constexpr bool kUpperHalvesAreCleared = false;
+#else
+constexpr bool kUpperHalvesAreCleared = true;
+#endif
+
 bool LeftUpperHalvesDirty() {
-  return orbsHasAvx && (canAskForUpperHalves ? UpperHalvesInUse() : orbsUpperHalvesHoldData());
+  if (!kUpperHalvesAreCleared || !orbsHasAvx) return false;
+  return canAskForUpperHalves ? UpperHalvesInUse() : orbsUpperHalvesHoldData();
 }
 
 bool KeptRegisters(const OrbsCallRecord& record) {

@@ -1,8 +1,8 @@
 // Every call of an export by the tests goes through a check of what a caller is owed: its registers, the
 // direction flag, the x87 stack and both floating-point control words come back as they were, and the upper
-// halves of the vector registers come back clear, since SSE code is slow on many processors while they are
-// not. On i386 the export is called from a frame that is aligned to 4 bytes and no more: callers that are
-// older than the 16-byte rule do so.
+// halves of the vector registers come back clear (in optimized code), since SSE code is slow on many
+// processors while they are not. On i386 the export is called from a frame that is aligned to 4 bytes and no
+// more: callers that are older than the 16-byte rule do so.
 //
 // The programs that use this are linked with --wrap for every export (checked_calls.S has the entries).
 #ifndef ORBS_TESTS_SUPPORT_CHECKED_CALLS_H
