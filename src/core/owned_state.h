@@ -5,6 +5,7 @@
 
 #include "core/memory.h"
 #include "core/variant.h"
+#include "orbs90lgc/status.h"
 #include "orbs90lgc/types.h"
 
 namespace orbs::ORBS_VARIANT {

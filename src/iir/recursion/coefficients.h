@@ -5,6 +5,7 @@
 
 #include "iir/layout.h"
 #include "iir/recursion/number.h"
+#include "orbs90lgc/status.h"
 
 namespace orbs::ORBS_VARIANT::iir {
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "transform/engine/plan.h"
 #include "transform/engine/vector/steps.h"
 
 namespace orbs::ORBS_VARIANT::transform {
