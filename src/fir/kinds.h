@@ -41,7 +41,7 @@ struct FIRIntState {
   Orb32s tapCount;
   Orb32s tapsFactor;
   Orb32s delayIndex;
-  orbs::Offset<Orb16s> taps16;  // vector variants: what the kernels multiply with, see integer_kernels.h
+  orbs::Offset<Orb16s> taps16;  // vector variants: what the kernels multiply with, see integer/kernels.h
   orbs::Offset<void> blockBuf;
   Orb32s owned;
 };
