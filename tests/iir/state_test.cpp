@@ -5,6 +5,7 @@
 #include "tests/support/export_test.h"
 #include "tests/support/failing_allocator.h"
 #include "tests/support/random_data.h"
+#include "tests/support/state_sizes.h"
 
 namespace orbs::test {
 namespace {
@@ -25,30 +26,23 @@ class IirStateTest : public ExportTest {
 };
 ORBS_INSTANTIATE_VARIANTS(IirStateTest);
 
-// Callers allocate by these.
-TEST_P(IirStateTest, Sizes) {
-  const bool px = GetParam() == Variant::px;
-  const auto expect = [](auto filter, int units, int64_t bytes) {
-    Orb32s size = 0;
-    ASSERT_EQ(decltype(filter)::Size(units, &size), StatusOk);
-    EXPECT_EQ(size, bytes) << decltype(filter)::kName << ", " << units;
-  };
-  for (int64_t n = 1; n <= 40; ++n) {
-    const int units = static_cast<int>(n);
-    const int64_t order = ((4 * n + 19) & ~15) + ((8 * n + 19) & ~15) + (px ? 80 : 32 * n + 8376);
-    const int64_t orderC = ((8 * n + 39) & ~31) + ((16 * n + 39) & ~31) + (px ? 96 : 128 * n + 16848);
-    const int64_t biQuad = ((8 * n + 15) & ~15) + ((20 * n + 15) & ~15) + (px ? 80 : 160 * n + 8312);
-    const int64_t biQuadC = ((16 * n + 31) & ~31) + ((40 * n + 31) & ~31) + (px ? 128 : 1184 * n + 16512);
-    expect(FloatOrder{}, units, order);
-    expect(IntegerOrder{}, units, order);
-    expect(FloatOrderC{}, units, orderC);
-    expect(IntegerOrderC{}, units, orderC);
-    expect(FloatBiQuad{}, units, biQuad);
-    expect(IntegerBiQuad{}, units, biQuad);
-    expect(FloatBiQuadC{}, units, biQuadC);
-    expect(IntegerBiQuadC{}, units, biQuadC);
-  }
-  expect(FloatBiQuadC{}, std::numeric_limits<Orb32s>::max(), std::numeric_limits<Orb32s>::max());
+TEST_P(IirStateTest, SizesByVariant) {
+  ExpectSizes(
+      GetParam(),
+      {
+          {"order",
+           {legacy90orbsIIRGetStateSize32s_16s, legacy90orbsIIRGetStateSize32s_16s32f},
+           {{3, 128, 8520, 8520, 8520, 8520}, {24, 400, 9464, 9464, 9464, 9464}}},
+          {"complex order",
+           {legacy90orbsIIRGetStateSize32sc_16sc, legacy90orbsIIRGetStateSize32sc_16sc32fc},
+           {{8, 352, 18128, 18128, 18128, 18128}, {31, 864, 21584, 21584, 21584, 21584}}},
+          {"biquads",
+           {legacy90orbsIIRGetStateSize32s_BiQuad_16s, legacy90orbsIIRGetStateSize32s_BiQuad_16s32f},
+           {{1, 128, 8520, 8520, 8520, 8520}, {37, 1136, 15288, 15288, 15288, 15288}}},
+          {"complex biquads",
+           {legacy90orbsIIRGetStateSize32sc_BiQuad_16sc, legacy90orbsIIRGetStateSize32sc_BiQuad_16sc32fc},
+           {{1, 224, 17792, 17792, 17792, 17792}, {37, 2240, 62432, 62432, 62432, 62432}}},
+      });
 }
 
 TEST_P(IirStateTest, Statuses) {

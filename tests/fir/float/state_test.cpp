@@ -4,6 +4,7 @@
 #include "tests/fir/float/filters.h"
 #include "tests/support/export_test.h"
 #include "tests/support/failing_allocator.h"
+#include "tests/support/state_sizes.h"
 
 namespace orbs::test {
 namespace {
@@ -11,42 +12,41 @@ namespace {
 class FirStateTest : public ExportTest {};
 ORBS_INSTANTIATE_VARIANTS(FirStateTest);
 
-// Sizes are what callers allocate by: the sums of all up to a tap count below the threshold, so that no plan
-// is in them; from the threshold on there are a plan and two arrays of four times the taps.
+// On both sides of the tap counts from which there is a transform.
 TEST_P(FirStateTest, SizesByVariant) {
-  struct Row {
-    OrbStatus (*size)(Orb32s, Orb32s*);
-    Orb32s tapCount;
-    Orb32s px, w7, v8, g9;
-    Orb32s tapBytes, threshold, thresholdFromV8;
-  };
-  const Row rows[] = {
-      {legacy90orbsFIRGetStateSize_32f, 63, 1075296, 1109088, 1145888, 1310448, 4, 64, 64},
-      {legacy90orbsFIRGetStateSize32f_16s, 63, 1075296, 1109088, 1145888, 1310448, 4, 64, 64},
-      {legacy90orbsFIRGetStateSize_32fc, 15, 498128, 511856, 511856, 527216, 8, 16, 16},
-      {legacy90orbsFIRGetStateSize_64f, 31, 1039392, 1048096, 1052384, 1092800, 8, 32, 64},
-      {legacy90orbsFIRGetStateSize_64fc, 15, 994576, 998672, 998672, 1033488, 16, 16, 32},
-      {legacy90orbsFIRGetStateSize_32s, 99, 3420557, 3500557, 3500557, 3681933, 0, 0, 0},
-  };
-  for (const Row& row : rows) {
-    const auto bytes = [&row](Orb32s tapCount) {
-      Orb32s size = 0;
-      EXPECT_EQ(row.size(tapCount, &size), StatusOk);
-      return size;
-    };
-    const bool early = GetParam() == Variant::px || GetParam() == Variant::w7;
-    const Orb32s expected = GetParam() == Variant::px                                ? row.px
-                            : GetParam() == Variant::w7                              ? row.w7
-                            : GetParam() == Variant::g9 || GetParam() == Variant::h9 ? row.g9
-                                                                                     : row.v8;
-    Orb32s sum = 0;
-    for (Orb32s n = 1; n <= row.tapCount; ++n) sum += bytes(n);
-    EXPECT_EQ(sum, expected) << &row - rows;
-    if (row.tapBytes == 0) continue;
-    const Orb32s n = early ? row.threshold : row.thresholdFromV8;
-    EXPECT_LT(bytes(n - 1) - bytes(n - 2), 8 * n * row.tapBytes) << &row - rows;
-    EXPECT_GT(bytes(n) - bytes(n - 1), 8 * n * row.tapBytes) << &row - rows;
-  }
+  ExpectSizes(GetParam(),
+              {
+                  {"32f taps",
+                   {legacy90orbsFIRGetStateSize_32f, legacy90orbsFIRGetStateSize32f_16s},
+                   {{2, 16592, 16656, 16784, 16784, 17872},
+                    {25, 16960, 17408, 17856, 17856, 20240},
+                    {63, 17568, 18592, 19680, 19680, 23760},
+                    {64, 22112, 24224, 25312, 25312, 29712}}},
+                  {"32fc taps",
+                   {legacy90orbsFIRGetStateSize_32fc, legacy90orbsFIRGetStateSize32fc_16sc},
+                   {{1, 32992, 33280, 33280, 33280, 34304},
+                    {15, 33440, 35072, 35072, 35072, 36096},
+                    {16, 35376, 37584, 37584, 37584, 37288}}},
+                  {"64f taps",
+                   {legacy90orbsFIRGetStateSize_64f, legacy90orbsFIRGetStateSize64f_32f,
+                    legacy90orbsFIRGetStateSize64f_32s, legacy90orbsFIRGetStateSize64f_16s},
+                   {{26, 33856, 34304, 34528, 34528, 36000},
+                    {31, 34016, 34528, 34784, 34784, 36320},
+                    {32, 38496, 40096, 34848, 34848, 36416},
+                    {63, 39520, 41632, 36576, 36576, 38624},
+                    {64, 43680, 46816, 47392, 47392, 49472}}},
+                  {"64fc taps",
+                   {legacy90orbsFIRGetStateSize_64fc, legacy90orbsFIRGetStateSize64fc_32fc,
+                    legacy90orbsFIRGetStateSize64fc_32sc, legacy90orbsFIRGetStateSize64fc_16sc},
+                   {{1, 65872, 65936, 65936, 65936, 68048},
+                    {15, 66768, 67280, 67280, 67280, 69840},
+                    {16, 70256, 71856, 67312, 67312, 69872},
+                    {31, 71248, 73360, 68816, 68816, 71888},
+                    {32, 74416, 77552, 77552, 75440, 80624}}},
+                  {"32s taps",
+                   {legacy90orbsFIRGetStateSize_32s},
+                   {{1, 32991, 33023, 33023, 33023, 34079}, {22, 33647, 33999, 33999, 33999, 35375}}},
+              });
 }
 
 // Taps that never were integers have their fraction cut off, and are the lower bound where they do not fit.
@@ -59,12 +59,6 @@ TEST_P(FirStateTest, TapsReadAsIntegers) {
   EXPECT_EQ(legacy90orbsFIRGetTaps_32s(state, got.data()), StatusOk);
   EXPECT_EQ(got, (std::vector<Orb32s>{1, -1, std::numeric_limits<Orb32s>::max(), kLow, kLow, kLow}));
   legacy90orbsFIRFree64f_32s(state);
-}
-
-TEST_P(FirStateTest, SizesBeyond31BitsCannotBeHad) {
-  Orb32s size = 0;
-  ASSERT_EQ(legacy90orbsFIRGetStateSize_64fc(std::numeric_limits<Orb32s>::max(), &size), StatusOk);
-  EXPECT_EQ(size, std::numeric_limits<Orb32s>::max());
 }
 
 TEST_P(FirStateTest, Statuses) {

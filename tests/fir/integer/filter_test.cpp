@@ -8,6 +8,7 @@
 #include "tests/support/failing_allocator.h"
 #include "tests/support/guarded_array.h"
 #include "tests/support/random_data.h"
+#include "tests/support/state_sizes.h"
 
 namespace orbs::test {
 namespace {
@@ -380,22 +381,26 @@ TEST_P(FirIntegerTest, Statuses) {
 }
 
 TEST_P(FirIntegerTest, SizesByVariant) {
-  const bool px = GetParam() == Variant::px;
-  const bool avx = GetParam() == Variant::g9 || GetParam() == Variant::h9;
-  const auto sizes = [](auto query) {  // the sum of those of 1 to 40 taps
-    Orb32s bytes = 0;
-    EXPECT_EQ(query(std::numeric_limits<Orb32s>::max(), &bytes), StatusOk);
-    EXPECT_EQ(bytes, std::numeric_limits<Orb32s>::max());
-    Orb32s sum = 0;
-    for (Orb32s n = 1; n <= 40; ++n, sum += bytes) EXPECT_EQ(query(n, &bytes), StatusOk);
-    return sum;
-  };
-  const Orb32s more = avx ? 40 * 512 : 0;
-  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize_16s), px ? 673360 : 676160 + more);
-  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32s_16s), px ? 674960 : 677760 + more);
-  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32s_16s32f), px ? 674960 : 677760 + more);
-  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32sc_16sc), px ? 676640 : 689760 + more);
-  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32sc_16sc32fc), px ? 676640 : 689760 + more);
+  ExpectSizes(GetParam(),
+              {
+                  {"16s",
+                   {legacy90orbsFIRGetStateSize_16s},
+                   {{5, 16592, 16688, 16688, 16688, 17200},
+                    {7, 16624, 16704, 16704, 16704, 17216},
+                    {20, 16816, 16864, 16864, 16864, 17376},
+                    {26, 16928, 16976, 16976, 16976, 17488}}},
+                  {"32s",
+                   {legacy90orbsFIRGetStateSize32s_16s, legacy90orbsFIRGetStateSize32s_16s32f},
+                   {{5, 16608, 16704, 16704, 16704, 17216},
+                    {7, 16640, 16720, 16720, 16720, 17232},
+                    {20, 16848, 16896, 16896, 16896, 17408},
+                    {26, 16976, 17024, 17024, 17024, 17536}}},
+                  {"32sc",
+                   {legacy90orbsFIRGetStateSize32sc_16sc, legacy90orbsFIRGetStateSize32sc_16sc32fc},
+                   {{1, 16528, 16544, 16544, 16544, 17056},
+                    {3, 16576, 16624, 16624, 16624, 17136},
+                    {16, 16816, 17072, 17072, 17072, 17584}}},
+              });
 }
 
 }  // namespace
