@@ -2,10 +2,10 @@
 #ifndef ORBS_TESTS_SUPPORT_STATE_SIZES_H
 #define ORBS_TESTS_SUPPORT_STATE_SIZES_H
 
-#include <limits>
 #include <vector>
 
 #include "orbs90lgc.h"
+#include "tests/support/samples.h"
 #include "tests/support/variants.h"
 
 namespace orbs::test {
@@ -29,7 +29,6 @@ struct RecordedSizes {
 };
 
 inline void ExpectSizes(Variant variant, const std::vector<RecordedSizes>& records) {
-  constexpr Orb32s kMost = std::numeric_limits<Orb32s>::max();
   for (const RecordedSizes& record : records) {
     for (const auto query : record.queries) {
       Orb32s size = 0;

@@ -188,24 +188,19 @@ void SetHeap(void* (*allocate)(size_t), void (*release)(void*)) { SetAllocator({
 TEST_P(FftPlanTest, InitAllocSurvivesEveryFailingAllocation) {
   for (int k = 0; k < kFftKinds; ++k) {
     for (const int order : {2, 9, 12}) {
-      for (int n = 0;; ++n) {
+      SCOPED_TRACE(testing::Message() << kFftKindNames[k] << " order " << order);
+      FailEachAllocation(SetHeap, [&](FailingAllocator& heap) {
         int marker = 0;
         void* plan = &marker;
-        FailingAllocator heap(SetHeap, n);
         const OrbStatus status = fft.plan[k].initAlloc(&plan, order, FftScaleInvByN, HintNone);
-        if (!heap.Failed()) {
-          EXPECT_EQ(status, StatusOk);
-          EXPECT_EQ(heap.Count(),
-                    order > 10 ? 2 : 1);  // the plan, and for the time of the call the init buffer
-          EXPECT_EQ(heap.Alive(), 1);
-          EXPECT_EQ(fft.plan[k].free(plan), StatusOk);
-          EXPECT_EQ(heap.Alive(), 0);
-          break;
-        }
-        EXPECT_EQ(status, StatusMemAlloc) << kFftKindNames[k] << " " << order;
-        EXPECT_EQ(heap.Alive(), 0);
-        EXPECT_EQ(plan, &marker);
-      }
+        EXPECT_EQ(plan == &marker, status != StatusOk);
+        if (status != StatusOk) return status;
+        // The plan, and for the time of the call the init buffer.
+        EXPECT_EQ(heap.Count(), order > 10 ? 2 : 1);
+        EXPECT_EQ(heap.Alive(), 1);
+        EXPECT_EQ(fft.plan[k].free(plan), StatusOk);
+        return status;
+      });
     }
   }
 }

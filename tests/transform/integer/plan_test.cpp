@@ -141,21 +141,14 @@ TEST_P(FftIntegerPlanTest, FailedAllocationsLeaveNothing) {
         SCOPED_TRACE(testing::Message() << kind.name << " order " << order << " hint " << hint);
         int somewhere = 0;
         void* const untouched = &somewhere;
-        for (int n = 0;; ++n) {
-          const FailingAllocator heap(orbsSetAllocator, n);
+        FailEachAllocation(orbsSetAllocator, [&](FailingAllocator& heap) {
           void* plan = untouched;
           const OrbStatus status = kind.initAlloc(&plan, order, FftScaleNone, hint);
-          if (!heap.Failed()) {
-            ASSERT_EQ(status, StatusOk);
-            EXPECT_EQ(heap.Alive(), 1);
-            EXPECT_EQ(kind.free(plan), StatusOk);
-            EXPECT_EQ(heap.Alive(), 0);
-            break;
-          }
-          ASSERT_EQ(status, StatusMemAlloc);
-          EXPECT_EQ(plan, untouched);
-          EXPECT_EQ(heap.Alive(), 0);
-        }
+          EXPECT_EQ(plan == untouched, status != StatusOk);
+          EXPECT_EQ(heap.Alive(), status == StatusOk ? 1 : 0);
+          if (status == StatusOk) kind.free(plan);
+          return status;
+        });
       }
     }
   }
