@@ -5,20 +5,15 @@
 #include <numeric>
 #include <vector>
 
+#include "tests/support/bad_calls.h"
 #include "tests/support/export_test.h"
 #include "tests/support/guarded_array.h"
+#include "tests/support/lengths.h"
 #include "tests/support/random_data.h"
+#include "tests/support/rows.h"
 
 namespace orbs::test {
 namespace {
-
-// Lengths around every block size of the kernels, and the odd ones between.
-std::vector<int> Lengths() {
-  std::vector<int> lengths(140);
-  std::iota(lengths.begin(), lengths.end(), 1);
-  for (int length : {255, 256, 257, 1000}) lengths.push_back(length);
-  return lengths;
-}
 
 // Decision by search over all codes, the way the law is drawn: the code whose interval holds the value. For
 // A-law the decision values lie between the outputs; for mu-law the sign and magnitude are coded apart.
@@ -201,7 +196,7 @@ void CheckLengths(OrbStatus (*function)(const Source*, Result*, Orb32s)) {
   const std::vector<Source> source = RandomArray<Source>(kMost, 5, 1.1);
   std::vector<Result> expected(kMost);
   for (size_t i = 0; i < kMost; ++i) ASSERT_EQ(function(&source[i], &expected[i], 1), StatusOk);
-  for (int length : Lengths()) {
+  for (int length : Lengths(140, {255, 256, 257, 1000})) {
     const auto n = static_cast<size_t>(length);
     const size_t gap = n % 5;
     const GuardedArray<Source> in(std::vector<Source>(source.begin(), source.begin() + length), gap);
@@ -212,38 +207,21 @@ void CheckLengths(OrbStatus (*function)(const Source*, Result*, Orb32s)) {
   }
 }
 
-template <class Source, class Result>
-void CheckStatuses(OrbStatus (*function)(const Source*, Result*, Orb32s)) {
-  const GuardedArray<Source> in(4);
-  GuardedArray<Result> out(4);
-  EXPECT_EQ(function(nullptr, out.data(), 0), StatusNullPointer);
-  EXPECT_EQ(function(in.data(), nullptr, -1), StatusNullPointer);
-  for (Orb32s length : {0, -1, std::numeric_limits<Orb32s>::min()}) {
-    EXPECT_EQ(function(in.data(), out.data(), length), StatusSize);
-  }
-  EXPECT_TRUE(out.Untouched());
-}
-
 template <class Check>
-void ForEachFunction(Check check) {
-  check(legacy90orbsALawToLin_8u16s);
-  check(legacy90orbsALawToLin_8u32f);
-  check(legacy90orbsMuLawToLin_8u16s);
-  check(legacy90orbsMuLawToLin_8u32f);
-  check(legacy90orbsALawToMuLaw_8u);
-  check(legacy90orbsMuLawToALaw_8u);
-  check(legacy90orbsLinToALaw_16s8u);
-  check(legacy90orbsLinToALaw_32f8u);
-  check(legacy90orbsLinToMuLaw_16s8u);
-  check(legacy90orbsLinToMuLaw_32f8u);
+void ForEachForm(const Check& check) {
+  ForEachFunction(check, ORBS_NAMED(legacy90orbsALawToLin_8u16s), ORBS_NAMED(legacy90orbsALawToLin_8u32f),
+                  ORBS_NAMED(legacy90orbsMuLawToLin_8u16s), ORBS_NAMED(legacy90orbsMuLawToLin_8u32f),
+                  ORBS_NAMED(legacy90orbsALawToMuLaw_8u), ORBS_NAMED(legacy90orbsMuLawToALaw_8u),
+                  ORBS_NAMED(legacy90orbsLinToALaw_16s8u), ORBS_NAMED(legacy90orbsLinToALaw_32f8u),
+                  ORBS_NAMED(legacy90orbsLinToMuLaw_16s8u), ORBS_NAMED(legacy90orbsLinToMuLaw_32f8u));
 }
 
 TEST_P(CompandingTest, EveryLengthAndAlignment) {
-  ForEachFunction([](auto function) { CheckLengths(function); });
+  ForEachForm([](auto* function) { CheckLengths(function); });
 }
 
 TEST_P(CompandingTest, BadArgumentsGiveTheirStatusAndWriteNothing) {
-  ForEachFunction([](auto function) { CheckStatuses(function); });
+  ForEachForm([](auto* function) { CheckBadCalls(function); });
 }
 
 TEST_P(CompandingTest, CodeConversionWorksInPlace) {

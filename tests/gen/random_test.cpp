@@ -6,9 +6,12 @@
 #include <numeric>
 #include <vector>
 
+#include "tests/support/bad_calls.h"
 #include "tests/support/effort.h"
 #include "tests/support/export_test.h"
 #include "tests/support/guarded_array.h"
+#include "tests/support/lengths.h"
+#include "tests/support/rows.h"
 
 namespace orbs::test {
 namespace {
@@ -82,19 +85,13 @@ template <class T>
 using RandomFunction = OrbStatus (*)(T*, Orb32s, T, T, Orb32u*);
 using ExpectedFunction = Expected (*)(Orb32u, int, long double, long double);
 
-std::vector<int> Lengths() {
-  std::vector<int> lengths = {1000, 1001, 4099};
-  for (int length = 1; length <= 200; ++length) lengths.push_back(length);
-  return lengths;
-}
-
 class RandomTest : public ExportTest {
  protected:
   // Hands each element and its exact value to `compare`, for all lengths.
   template <class T, class Compare>
   void ForEachElement(RandomFunction<T> function, ExpectedFunction reference, T a, T b, Compare compare) {
     Orb32u nextSeed = 0;
-    for (const int length : Lengths()) {
+    for (const int length : Lengths(200, {1000, 1001, 4099})) {
       const auto size = static_cast<size_t>(length);
       const Expected expected = reference(nextSeed, length, a, b);
       GuardedArray<T> out(size, size % 5);
@@ -208,7 +205,10 @@ Moments MomentsOf(const std::vector<T>& x) {
   return m;
 }
 
-// Chi-square over 256 bins; `bin` gives the bin of a value. 255 degrees of freedom: 371 is the bound.
+constexpr double kDeviations = 4.9;      // of a mean
+constexpr double kChiSquareBound = 371;  // of 255 degrees of freedom
+
+// Chi-square over 256 bins; `bin` gives the bin of a value. 255 degrees of freedom.
 template <class T, class Bin>
 double ChiSquare(const std::vector<T>& x, Bin bin) {
   std::vector<int> counts(256);
@@ -226,10 +226,10 @@ TEST_P(RandomTest, UniformNumbersAreUniform) {
   legacy90orbsRandUniform_Direct_32f(x.data(), kMany, 0.0f, 1.0f, &seed);
   legacy90orbsRandUniform_Direct_16s(samples.data(), kMany, -32768, 32767, &seed);
   const Moments m = MomentsOf(x);
-  EXPECT_NEAR(m.mean, 0.5, 4.9 * std::sqrt(1.0 / 12 / kMany));
-  EXPECT_NEAR(m.variance, 1.0 / 12, 4.9 * std::sqrt(1.0 / 180 / kMany));
-  EXPECT_LT(ChiSquare(x, [](float v) { return std::min(255, static_cast<int>(v * 256)); }), 371);
-  EXPECT_LT(ChiSquare(samples, [](int v) { return (v + 32768) / 256; }), 371);
+  EXPECT_NEAR(m.mean, 0.5, kDeviations * std::sqrt(1.0 / 12 / kMany));
+  EXPECT_NEAR(m.variance, 1.0 / 12, kDeviations * std::sqrt(1.0 / 180 / kMany));
+  EXPECT_LT(ChiSquare(x, [](float v) { return std::min(255, static_cast<int>(v * 256)); }), kChiSquareBound);
+  EXPECT_LT(ChiSquare(samples, [](int v) { return (v + 32768) / 256; }), kChiSquareBound);
 
   // Pairs of neighbours, 16 by 16.
   std::vector<int> pairs;
@@ -237,7 +237,7 @@ TEST_P(RandomTest, UniformNumbersAreUniform) {
     pairs.push_back(std::min(15, static_cast<int>(x[i] * 16)) * 16 +
                     std::min(15, static_cast<int>(x[i + 1] * 16)));
   }
-  EXPECT_LT(ChiSquare(pairs, [](int v) { return v; }), 371);
+  EXPECT_LT(ChiSquare(pairs, [](int v) { return v; }), kChiSquareBound);
 }
 
 TEST_P(RandomTest, GaussianNumbersAreNormal) {
@@ -245,15 +245,16 @@ TEST_P(RandomTest, GaussianNumbersAreNormal) {
   Orb32u seed = kSeed;
   legacy90orbsRandGauss_Direct_32f(x.data(), kMany, 0.0f, 1.0f, &seed);
   const Moments m = MomentsOf(x);
-  EXPECT_NEAR(m.mean, 0, 4.9 / std::sqrt(kMany));
-  EXPECT_NEAR(m.variance, 1, 4.9 * std::sqrt(2.0 / kMany));
+  EXPECT_NEAR(m.mean, 0, kDeviations / std::sqrt(kMany));
+  EXPECT_NEAR(m.variance, 1, kDeviations * std::sqrt(2.0 / kMany));
   // Neighbours, which come from one point, are independent.
   double product = 0;
   for (size_t i = 0; i + 1 < x.size(); i += 2) product += static_cast<double>(x[i]) * x[i + 1];
-  EXPECT_NEAR(product / (kMany / 2), 0, 4.9 * std::sqrt(2.0 / kMany));
+  EXPECT_NEAR(product / (kMany / 2), 0, kDeviations * std::sqrt(2.0 / kMany));
 
   const auto phi = [](double v) { return std::erfc(-v / std::sqrt(2.0)) / 2; };
-  EXPECT_LT(ChiSquare(x, [phi](float v) { return std::min(255, static_cast<int>(phi(v) * 256)); }), 371);
+  EXPECT_LT(ChiSquare(x, [phi](float v) { return std::min(255, static_cast<int>(phi(v) * 256)); }),
+            kChiSquareBound);
   // Kolmogorov and Smirnov: the largest distance between the distributions.
   std::sort(x.begin(), x.end());
   double distance = 0;
@@ -267,26 +268,12 @@ TEST_P(RandomTest, GaussianNumbersAreNormal) {
 
 // ---- Statuses ----
 
-template <class T>
-void CheckStatuses(RandomFunction<T> function) {
-  GuardedArray<T> out(4);
-  Orb32u seed = kSeed;
-  EXPECT_EQ(function(nullptr, 0, 1, 2, &seed), StatusNullPointer);
-  EXPECT_EQ(function(out.data(), 0, 1, 2, nullptr), StatusNullPointer);
-  for (const Orb32s length : {0, -1, std::numeric_limits<Orb32s>::min()}) {
-    EXPECT_EQ(function(out.data(), length, 1, 2, &seed), StatusSize);
-  }
-  EXPECT_TRUE(out.Untouched());
-  EXPECT_EQ(seed, kSeed);
-}
-
 TEST_P(RandomTest, BadArgumentsGiveTheirStatusAndChangeNothing) {
-  CheckStatuses(legacy90orbsRandUniform_Direct_16s);
-  CheckStatuses(legacy90orbsRandUniform_Direct_32f);
-  CheckStatuses(legacy90orbsRandUniform_Direct_64f);
-  CheckStatuses(legacy90orbsRandGauss_Direct_16s);
-  CheckStatuses(legacy90orbsRandGauss_Direct_32f);
-  CheckStatuses(legacy90orbsRandGauss_Direct_64f);
+  ForEachFunction(
+      [](auto* function) { CheckBadCalls(function); }, ORBS_NAMED(legacy90orbsRandUniform_Direct_16s),
+      ORBS_NAMED(legacy90orbsRandUniform_Direct_32f), ORBS_NAMED(legacy90orbsRandUniform_Direct_64f),
+      ORBS_NAMED(legacy90orbsRandGauss_Direct_16s), ORBS_NAMED(legacy90orbsRandGauss_Direct_32f),
+      ORBS_NAMED(legacy90orbsRandGauss_Direct_64f));
 }
 
 }  // namespace

@@ -13,8 +13,6 @@ namespace {
 
 class IirFilterTest : public ExportTest {
  protected:
-  bool IsPx() const { return GetParam() == Variant::px; }
-
   template <class F>
   static std::vector<typename F::Data> Run(IIRState* state, const std::vector<typename F::Data>& x,
                                            const std::vector<int>& calls, Orb32s scaleFactor) {

@@ -3,6 +3,7 @@
 #include "tests/support/effort.h"
 #include "tests/support/export_test.h"
 #include "tests/support/filter_calls.h"
+#include "tests/support/lengths.h"
 
 namespace orbs::test {
 namespace {
@@ -44,18 +45,11 @@ class FirTest : public ExportTest {
 };
 ORBS_INSTANTIATE_VARIANTS(FirTest);
 
-std::vector<int> TapCounts() {
-  std::vector<int> counts;
-  for (int n = 1; n <= 70; ++n) counts.push_back(n);
-  for (int n : {99, 100, 101, 127, 128, 129, 255}) counts.push_back(n);
-  return counts;
-}
-
 // In exactly the bytes reported, at addresses of every alignment.
 TEST_P(FirTest, EveryTapCountInMemoryOfTheCaller) {
   ForEachFilter([&](auto filter) {
     using F = decltype(filter);
-    for (int n : TapCounts()) {
+    for (int n : Lengths(70, {99, 100, 101, 127, 128, 129, 255})) {
       Orb32s size = 0;
       ASSERT_EQ(F::Size(n, &size), StatusOk);
       GuardedArray<unsigned char> block(static_cast<size_t>(size), static_cast<size_t>(n % 33));
@@ -198,18 +192,16 @@ std::vector<double> Scaled(const std::vector<double>& taps, double sample, Orb32
 
 TEST_P(FirTest, TiesSaturationAndScaleFactors) {
   using Values = std::vector<double>;
-  const bool px = GetParam() == Variant::px;
-  const bool avx = GetParam() == Variant::g9 || GetParam() == Variant::h9;
-  const double one = px ? 3 : 2;
+  // 2.5 where ties go away from zero in px alone.
+  const double one = IsPx() ? 3 : 2;
   EXPECT_EQ(Scaled<Filter32f_16s>({0.5}, 5, 0), (Values{one, 2, 2}));
   EXPECT_EQ(Scaled<Filter32fc_16sc>({0.5}, 5, 0), (Values{one, 2, 2}));
   EXPECT_EQ(Scaled<Filter64f_16s>({0.5}, 5, 0), (Values{one, one, one}));
   EXPECT_EQ(Scaled<Filter64f_32s>({0.5}, 5, 0), (Values{one, 2, 2}));
   EXPECT_EQ(Scaled<Filter32s>({1}, 5, 1), (Values{one, 2, 2}));
   // Short complex filters of two kinds send ties away from zero in the AVX variants as well.
-  const double shortOne = px || avx ? -3 : -2;
-  EXPECT_EQ(Scaled<Filter64fc_16sc>({0.5, 0, 0, 0}, -5, 0),
-            (Values{shortOne, px ? -3. : -2., px ? -3. : -2.}));
+  const double shortOne = IsPx() || IsAvx() ? -3 : -2;
+  EXPECT_EQ(Scaled<Filter64fc_16sc>({0.5, 0, 0, 0}, -5, 0), (Values{shortOne, -one, -one}));
   EXPECT_EQ(Scaled<Filter64fc_32sc>({0.5, 0, 0, 0}, -5, 0), (Values{shortOne, -2, -2}));
   EXPECT_EQ(Scaled<Filter64fc_16sc>({0.5, 0, 0, 0, 0}, -5, 0)[0], -one);
 
