@@ -100,21 +100,6 @@ TEST_P(CompandingTest, DecodersFollowTheLawForEveryCode) {
   expectSamples(ReferenceDecodeMuLaw);
 }
 
-TEST_P(CompandingTest, DecodingThenEncodingGivesTheCodeBack) {
-  const std::vector<Orb8u> codes = AllCodes();
-  std::vector<Orb16s> samples(256);
-  std::vector<Orb8u> again(256);
-  legacy90orbsALawToLin_8u16s(codes.data(), samples.data(), 256);
-  legacy90orbsLinToALaw_16s8u(samples.data(), again.data(), 256);
-  EXPECT_EQ(again, codes);
-
-  legacy90orbsMuLawToLin_8u16s(codes.data(), samples.data(), 256);
-  legacy90orbsLinToMuLaw_16s8u(samples.data(), again.data(), 256);
-  EXPECT_EQ(again[0x7F], 0xFF);  // minus zero turns into plus zero
-  again[0x7F] = 0x7F;
-  EXPECT_EQ(again, codes);
-}
-
 TEST_P(CompandingTest, CodeConversionIsTheTableOfTheRecommendation) {
   const std::vector<Orb8u> codes = AllCodes();
   std::vector<Orb8u> toMuLaw(256);
@@ -149,21 +134,12 @@ TEST_P(CompandingTest, CodeConversionIsTheTableOfTheRecommendation) {
 
 TEST_P(CompandingTest, FloatEncodersRoundHalfAwayAndTakeTheSignOfTheLaw) {
   constexpr float kInfinity = std::numeric_limits<float>::infinity();
-  std::vector<Orb32f> values = {0.0f,
-                                -0.0f,
-                                1e-6f,
-                                -1e-6f,
-                                1.0f,
-                                -1.0f,
-                                0.99998f,
-                                2.0f,
-                                -2.0f,
-                                1e30f,
-                                -1e30f,
-                                kInfinity,
-                                -kInfinity,
-                                std::numeric_limits<float>::denorm_min(),
-                                -std::numeric_limits<float>::denorm_min()};
+  std::vector<Orb32f> values;
+  for (float x :
+       {0.0f, 1e-6f, 1.0f, 0.99998f, 2.0f, 1e30f, kInfinity, std::numeric_limits<float>::denorm_min()}) {
+    values.push_back(x);
+    values.push_back(-x);
+  }
   for (int x = -33000; x <= 33000; x += 7) {
     for (float fraction : {0.0f, 0.5f, 0.49999f, 0.50001f})
       values.push_back((static_cast<float>(x) + fraction) / 32768);

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <complex>
 #include <limits>
-#include <string>
 #include <vector>
 
 #include "tests/support/effort.h"
@@ -315,38 +314,6 @@ TEST_P(GoertzelTest, StatusesOfTheScaledMembers) {
   EXPECT_EQ(two(x.data(), 4, result.data(), good), StatusOk);
   EXPECT_EQ(twoQ15(x.data(), 4, result.data(), goodQ15), StatusOk);
   EXPECT_EQ(one(x.data(), 4, result.data(), 32767), StatusOk);
-}
-
-// A telephone keypad at 8 kHz: the strongest row and the strongest column of each 25 ms, in noise.
-TEST_P(GoertzelTest, ReadsTouchTones) {
-  const Orb32f rows[4] = {697, 770, 852, 941};
-  const Orb32f columns[4] = {1209, 1336, 1477, 1633};
-  const std::string keys = "123A456B789C*0#D";
-  constexpr Orb32s kBlock = 205;
-  std::mt19937 engine(4);
-  std::normal_distribution<float> noise(0, 0.1f);
-  std::string found;
-  for (size_t key = 0; key < keys.size(); ++key) {
-    std::vector<Orb32f> x(kBlock);
-    for (size_t n = 0; n < x.size(); ++n) {
-      const double t = static_cast<double>(2 * kPi) * static_cast<double>(n + 31 * key) / 8000;
-      x[n] = static_cast<Orb32f>(0.5 * std::sin(rows[key / 4] * t) + 0.4 * std::sin(columns[key % 4] * t));
-      x[n] += noise(engine);
-    }
-    const auto strongest = [&](const Orb32f(&tones)[4]) {
-      float magnitudes[4];
-      for (size_t i = 0; i < 4; i += 2) {
-        const Orb32f f[2] = {tones[i] / 8000, tones[i + 1] / 8000};
-        Orb32fc sums[2];
-        EXPECT_EQ(legacy90orbsGoertzTwo_32f(x.data(), kBlock, sums, f), StatusOk);
-        magnitudes[i] = std::hypot(sums[0].re, sums[0].im);
-        magnitudes[i + 1] = std::hypot(sums[1].re, sums[1].im);
-      }
-      return static_cast<size_t>(std::max_element(magnitudes, magnitudes + 4) - magnitudes);
-    };
-    found += keys[4 * strongest(rows) + strongest(columns)];
-  }
-  EXPECT_EQ(found, keys);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "orbs90lgc.h"
+#include "tests/fir/state_functions.h"
 #include "tests/support/rows.h"
 #include "tests/support/samples.h"
 
@@ -28,17 +29,7 @@ OrbStatus CallScaled(Function* function, [[maybe_unused]] Orb32s factor, Args...
 // functions for delay lines are named after.
 #define ORBS_TEST_FIR(name, suffix, delay, TapType, DataType, scaled, inPlace)                  \
   struct name {                                                                                 \
-    using Tap = TapType;                                                                        \
-    using Data = DataType;                                                                      \
-    static constexpr const char* kName = #suffix;                                               \
-    static constexpr auto* Size = legacy90orbsFIRGetStateSize##suffix;                          \
-    static constexpr auto* Init = legacy90orbsFIRInit##suffix;                                  \
-    static constexpr auto* InitAlloc = legacy90orbsFIRInitAlloc##suffix;                        \
-    static constexpr auto* Free = legacy90orbsFIRFree##suffix;                                  \
-    static constexpr auto* GetTaps = legacy90orbsFIRGetTaps##suffix;                            \
-    static constexpr auto* SetTaps = legacy90orbsFIRSetTaps##suffix;                            \
-    static constexpr auto* GetDelay = legacy90orbsFIRGetDlyLine##delay;                         \
-    static constexpr auto* SetDelay = legacy90orbsFIRSetDlyLine##delay;                         \
+    ORBS_TEST_FIR_STATE(suffix, delay, TapType, DataType)                                       \
     static OrbStatus Block(const Data* x, Data* y, Orb32s n, FIRFloatState* s, Orb32s factor) { \
       return CallScaled(legacy90orbsFIR##suffix##scaled, factor, x, y, n, s);                   \
     }                                                                                           \

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "tests/fir/integer/reference.h"
+#include "tests/fir/state_functions.h"
 #include "tests/support/export_test.h"
 #include "tests/support/failing_allocator.h"
 #include "tests/support/filter_calls.h"
@@ -13,22 +14,12 @@
 namespace orbs::test {
 namespace {
 
-#define ORBS_TEST_FIR(name, suffix, TapType, DataType)                   \
-  struct name {                                                          \
-    using Tap = TapType;                                                 \
-    using Data = DataType;                                               \
-    static constexpr const char* kName = #suffix;                        \
-    static constexpr auto* Size = legacy90orbsFIRGetStateSize##suffix;   \
-    static constexpr auto* Init = legacy90orbsFIRInit##suffix;           \
-    static constexpr auto* InitAlloc = legacy90orbsFIRInitAlloc##suffix; \
-    static constexpr auto* Free = legacy90orbsFIRFree##suffix;           \
-    static constexpr auto* GetTaps = legacy90orbsFIRGetTaps##suffix;     \
-    static constexpr auto* SetTaps = legacy90orbsFIRSetTaps##suffix;     \
-    static constexpr auto* GetDelay = legacy90orbsFIRGetDlyLine##suffix; \
-    static constexpr auto* SetDelay = legacy90orbsFIRSetDlyLine##suffix; \
-    static constexpr auto* Block = legacy90orbsFIR##suffix##_Sfs;        \
-    static constexpr auto* InPlace = legacy90orbsFIR##suffix##_ISfs;     \
-    static constexpr auto* One = legacy90orbsFIROne##suffix##_Sfs;       \
+#define ORBS_TEST_FIR(name, suffix, TapType, DataType)               \
+  struct name {                                                      \
+    ORBS_TEST_FIR_STATE(suffix, suffix, TapType, DataType)           \
+    static constexpr auto* Block = legacy90orbsFIR##suffix##_Sfs;    \
+    static constexpr auto* InPlace = legacy90orbsFIR##suffix##_ISfs; \
+    static constexpr auto* One = legacy90orbsFIROne##suffix##_Sfs;   \
   };
 ORBS_TEST_FIR(Filter16s, _16s, Orb16s, Orb16s)
 ORBS_TEST_FIR(Filter32s, 32s_16s, Orb32s, Orb16s)
