@@ -41,6 +41,7 @@ set(ORBS_VARIANT_SOURCES
     src/fir/integer/access_exports.cpp
     src/fir/integer/filter_exports.cpp
     src/fir/integer/init_exports.cpp
+    src/fir/sizes.cpp
     src/gen/companding/companding_exports.cpp
     src/gen/pattern/jaehne_exports.cpp
     src/gen/pattern/ramp_exports.cpp
@@ -58,6 +59,7 @@ set(ORBS_VARIANT_SOURCES
     src/iir/filter_exports.cpp
     src/iir/init_exports.cpp
     src/iir/run.cpp
+    src/iir/sizes.cpp
     src/modem/fm_exports.cpp
     src/modem/goertzel_exports.cpp
     src/modem/viterbi_exports.cpp)

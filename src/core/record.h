@@ -56,13 +56,13 @@ static_assert(sizeof(Offset<Orb64fc>) == 4);
 class BlockLayout {
  public:
   // The record itself, its size rounded up to `alignment`.
-  [[gnu::always_inline]] BlockLayout(int64_t recordBytes, int64_t alignment)
+  [[gnu::always_inline]] constexpr BlockLayout(int64_t recordBytes, int64_t alignment)
       : bytes_(RoundUp(recordBytes, alignment)) {}
 
   // Room for `count` elements, its size rounded up to `alignment`; where it starts follows from the parts
   // before it. No array at all for a count below 1.
   template <class T>
-  [[gnu::always_inline]] Offset<T> Add(int64_t count, int64_t alignment) {
+  [[gnu::always_inline]] constexpr Offset<T> Add(int64_t count, int64_t alignment) {
     constexpr int64_t kLimit = int64_t{1} << 40;  // far beyond any block, far below overflow of the sum
     if (count < 1) return {0};
     const Offset<T> offset = {static_cast<Orb32s>(Fits() ? bytes_ : 0)};
@@ -72,8 +72,8 @@ class BlockLayout {
     return offset;
   }
 
-  [[gnu::always_inline]] int64_t Bytes() const { return bytes_; }
-  [[gnu::always_inline]] bool Fits() const { return bytes_ <= INT32_MAX; }
+  [[gnu::always_inline]] constexpr int64_t Bytes() const { return bytes_; }
+  [[gnu::always_inline]] constexpr bool Fits() const { return bytes_ <= INT32_MAX; }
 
  private:
   int64_t bytes_;

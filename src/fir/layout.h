@@ -1,10 +1,10 @@
-// What the block of a FIR state with floating-point taps holds: the one description from which the size
-// query, Init and InitAlloc take their numbers.
+// What the block of a FIR state with floating-point taps holds: the one description from which Init and InitAlloc
+// take their numbers. The size query reports what sizes.h fixes.
 #ifndef ORBS_FIR_LAYOUT_H
 #define ORBS_FIR_LAYOUT_H
 
 #include "fir/kinds.h"
-#include "fir/tuning.h"
+#include "fir/sizes.h"
 #include "simd/simd.h"
 #include "toolkit/toolkit.h"
 #include "transform/fft.h"
@@ -25,18 +25,6 @@ constexpr Orb32s FirFftOrder(Orb32s n) {
   return k + 1;
 }
 
-// ---- The block ----
-
-struct FirFftSizes {
-  Orb32s order = 0;
-  Orb32s length = 0;  // L; 0: no FFT path
-  Orb32s plan = 0;
-  Orb32s init = 0;
-  Orb32s work = 0;
-
-  int64_t Total() const { return int64_t{plan} + init + work; }
-};
-
 // `fromTaps` is the threshold; a transform that the engine refuses means no FFT path.
 template <class Tap>
 FirFftSizes SizeFirFft(Orb32s n, Orb32s fromTaps) {
@@ -49,6 +37,13 @@ FirFftSizes SizeFirFft(Orb32s n, Orb32s fromTaps) {
   sizes.length = Orb32s{1} << sizes.order;
   return sizes;
 }
+
+// ---- The block ----
+
+// The record stands on a multiple of these bytes.
+template <class Tap>
+inline constexpr uintptr_t kFirAlignment = sizeof(PartOf<Tap>) == 8 ? 32 : 16;
+inline constexpr uintptr_t kFirAlignment_32s = 16;
 
 #if ORBS_VECTOR
 template <class Part>
@@ -70,7 +65,7 @@ struct FirLayout {
 };
 
 template <class Tap>
-FirLayout DescribeFir(Orb32s n, const FirFftSizes& fft) {
+constexpr FirLayout DescribeFir(Orb32s n, const FirFftSizes& fft) {
   using Part = PartOf<Tap>;
   constexpr int kParts = PartsOf<Tap>::kCount;
   constexpr int kAlignment = 16;
@@ -100,13 +95,6 @@ FirLayout DescribeFir(Orb32s n, const FirFftSizes& fft) {
     at.fftBuffer.bytes = block.Add<unsigned char>(fft.work, 1).bytes;
   }
   return layout;
-}
-
-// What a caller has to give. The parts of the FFT path come on top of the sizes of tuning.h.
-template <class Tap>
-int64_t FirStateBytes(Orb32s n, const FirFftSizes& fft) {
-  return FirBytes<Tap>(n) + 2 * RoundUp(int64_t{fft.length} * static_cast<int64_t>(sizeof(Tap)), 16) +
-         fft.Total();
 }
 
 }  // namespace orbs::ORBS_VARIANT::fir

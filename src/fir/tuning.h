@@ -1,17 +1,15 @@
-// What differs between the variants of the FIR filters: thresholds, and the sizes of states. The sizes are
-// interface: callers allocate by them, whatever a variant keeps in the room.
+// What differs between the variants of the FIR filters: thresholds and scratch.
 #ifndef ORBS_FIR_TUNING_H
 #define ORBS_FIR_TUNING_H
 
 #include <cstdint>
 
-#include "core/record.h"
 #include "core/variant.h"
 #include "orbs90lgc/types.h"
 
 namespace orbs::ORBS_VARIANT::fir {
 
-// Groups of variants that share sizes.
+// Groups of variants that share numbers.
 inline constexpr bool kIsPx = kVariant == Variant::px;
 inline constexpr bool kIsW7 = kVariant == Variant::w7;
 inline constexpr bool kIsAvx = kVariant == Variant::g9 || kVariant == Variant::h9;
@@ -60,58 +58,6 @@ inline constexpr Orb32s kFirChunk = 1024;
 template <int vector>
 constexpr int64_t FirDelayRoom(int64_t n) {
   return kIsPx ? n + 4 : n + 2 * vector;
-}
-
-// ---- Sizes of float states, for n taps, without the parts of the FFT path ----
-
-template <class Tap>
-constexpr int64_t FirBytes(int64_t n);
-
-template <>
-constexpr int64_t FirBytes<Orb32f>(int64_t n) {
-  if (kIsPx) return RoundUp(4 * n, 16) + ((12 * n + 31) & ~15) + 16528;
-  if (kIsW7) return 5 * RoundUp(4 * n, 16) + ((12 * n + 31) & ~15) + 16528;
-  if (kIsAvx) return 36 * ((n + 16) & ~7) + ((32 * n + 63) & ~31) + ((32 * n + 120) & ~127) + 17072;
-  return 5 * RoundUp(4 * n, 16) + 16 * (((12 * n + 31) >> 4) + ((n + 6) & ~3)) + 16528;
-}
-template <>
-constexpr int64_t FirBytes<Orb32fc>(int64_t n) {
-  const int64_t delay = (24 * n + 47) & ~15;
-  if (kIsPx) return RoundUp(8 * n, 16) + delay + 32912;
-  return 13 * RoundUp(8 * n, 16) + delay + (kIsAvx ? 34032 : 33008);
-}
-template <>
-constexpr int64_t FirBytes<Orb64f>(int64_t n) {
-  const int64_t delay = (24 * n + 63) & ~31;
-  if (kIsPx) return RoundUp(8 * n, 32) + delay + 32960;
-  if (kIsW7) return 3 * RoundUp(8 * n, 32) + delay + 32960;
-  if (kIsAvx) return 48 * ((n + 2) & ~1) + delay + 33984;
-  return 32 * (((24 * n + 63) >> 5) + ((n + 2) & ~1)) + 32960;
-}
-template <>
-constexpr int64_t FirBytes<Orb64fc>(int64_t n) {
-  const int64_t delay = (48 * n + 95) & ~31;
-  if (kIsPx) return RoundUp(16 * n, 32) + delay + 65712;
-  return kIsAvx ? 5 * RoundUp(16 * n, 32) + delay + 67760 : 3 * RoundUp(16 * n, 32) + delay + 65712;
-}
-// The state of 32-bit integer taps, which are held as 64f.
-constexpr int64_t FirBytes_32s(int64_t n) {
-  const int64_t delay = (24 * n + 47) & ~15;
-  if (kIsPx) return RoundUp(8 * n, 16) + delay + 32911;
-  return kIsAvx ? 5 * RoundUp(8 * n, 16) + delay + 33935 : 3 * RoundUp(8 * n, 16) + delay + 32911;
-}
-
-// ---- Sizes of integer states ----
-
-// tapBytes: 2 for 16s taps, 4 for 32s.
-constexpr int64_t FirIntBytes(int64_t n, int64_t tapBytes) {
-  if (kIsPx) return RoundUp(8 * n, 16) + ((6 * n + 23) & ~15) + RoundUp(tapBytes * n, 16) + 16480;
-  return RoundUp(tapBytes * n, 16) + RoundUp(2 * (((n + 11) & ~7) + 2 * n) + 8, 16) + 64 * ((n + 11) >> 3) +
-         16480 + (kIsAvx ? 512 : 0);
-}
-constexpr int64_t FirIntBytes_32sc(int64_t n) {
-  const int64_t bytes = RoundUp(8 * n, 16) + ((12 * n + 31) & ~15) + 16480;
-  return kIsPx ? bytes : bytes + 16 * n + (kIsAvx ? 512 : 0);
 }
 
 }  // namespace orbs::ORBS_VARIANT::fir

@@ -20,7 +20,7 @@ struct IIRState {
   orbs::Offset<void> taps;            // of the delay type, normalised
   orbs::Offset<void> delayLine;       // Orb32f, Orb32fc for complex data
   Orb32s delayLen;                    // elements that accessors move: N, or 2 B
-  orbs::Offset<void> lookAheadTable;  // rows of the block recursion, see layout.h
+  orbs::Offset<void> lookAheadTable;  // rows of the block recursion, see tuning.h
   Orb32s sectionCount;                // B, or 0 for arbitrary order
   orbs::Offset<Orb32f> sectionTable;  // biquads: coefficients for the one-sample step, see step.h
   orbs::Offset<void> blockA;          // a piece of the stream on its way through the filter

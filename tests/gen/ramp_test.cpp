@@ -5,9 +5,12 @@
 #include <type_traits>
 #include <vector>
 
+#include "tests/support/bad_calls.h"
 #include "tests/support/effort.h"
 #include "tests/support/export_test.h"
 #include "tests/support/guarded_array.h"
+#include "tests/support/lengths.h"
+#include "tests/support/rows.h"
 
 namespace orbs::test {
 namespace {
@@ -57,15 +60,11 @@ class RampTest : public ExportTest {
 ORBS_INSTANTIATE_VARIANTS(RampTest);
 
 template <class Check>
-void ForEachRamp(Check check) {
-  check(legacy90orbsVectorRamp_8u);
-  check(legacy90orbsVectorRamp_8s);
-  check(legacy90orbsVectorRamp_16u);
-  check(legacy90orbsVectorRamp_16s);
-  check(legacy90orbsVectorRamp_32u);
-  check(legacy90orbsVectorRamp_32s);
-  check(legacy90orbsVectorRamp_32f);
-  check(legacy90orbsVectorRamp_64f);
+void ForEachRamp(const Check& check) {
+  ForEachFunction(check, ORBS_NAMED(legacy90orbsVectorRamp_8u), ORBS_NAMED(legacy90orbsVectorRamp_8s),
+                  ORBS_NAMED(legacy90orbsVectorRamp_16u), ORBS_NAMED(legacy90orbsVectorRamp_16s),
+                  ORBS_NAMED(legacy90orbsVectorRamp_32u), ORBS_NAMED(legacy90orbsVectorRamp_32s),
+                  ORBS_NAMED(legacy90orbsVectorRamp_32f), ORBS_NAMED(legacy90orbsVectorRamp_64f));
 }
 
 TEST_P(RampTest, EveryLength) {
@@ -123,6 +122,8 @@ TEST_P(RampTest, LongIndices) {
 
 class SlopeTest : public ExportTest {
  protected:
+  static constexpr long double kTieSlack = 1e-3L;
+
   // The line begins anew, rounded to binary32, where it enters the range. Exact beyond the bounds, and in px
   // everywhere; in the other variants a value near the middle between two integers may go either way.
   void ExpectSlope(int length, float offset, float slope) {
@@ -139,10 +140,10 @@ class SlopeTest : public ExportTest {
         y = base + static_cast<long double>(n - entry) * slope;
       }
       const Orb8s actual = out[static_cast<size_t>(n)];
-      if (GetParam() == Variant::px || !inside) {
+      if (IsPx() || !inside) {
         ASSERT_EQ(actual, Deliver<Orb8s>(y)) << n << " of " << length << ": " << offset << " + n " << slope;
       } else {
-        ASSERT_LE(std::abs(actual - y), 0.5L + 1e-3L) << n << ": " << offset << " + n " << slope;
+        ASSERT_LE(std::abs(actual - y), 0.5L + kTieSlack) << n << ": " << offset << " + n " << slope;
       }
     }
   }
@@ -181,8 +182,7 @@ TEST_P(SlopeTest, LongLinesDoNotDrift) {
 
 TEST_P(SlopeTest, TiesByVariant) {
   const std::vector<Orb8s> ties = Slope(4, -1.5f, 1.0f);
-  EXPECT_EQ(ties, GetParam() == Variant::px ? (std::vector<Orb8s>{-2, -1, 1, 2})
-                                            : (std::vector<Orb8s>{-2, 0, 0, 2}));
+  EXPECT_EQ(ties, IsPx() ? (std::vector<Orb8s>{-2, -1, 1, 2}) : (std::vector<Orb8s>{-2, 0, 0, 2}));
   // Without a slope all variants round alike.
   EXPECT_EQ(Slope(1, 2.5f, 0.0f)[0], 3);
   EXPECT_EQ(Slope(1, -2.5f, 0.0f)[0], -3);
@@ -234,9 +234,7 @@ class JaehneTest : public ExportTest {};
 ORBS_INSTANTIATE_VARIANTS(JaehneTest);
 
 TEST_P(JaehneTest, EightBitsFollowTheFormula) {
-  std::vector<int> lengths = {255, 256, 257, 1000, Effort(100000, 10000)};
-  for (int length = 1; length <= 70; ++length) lengths.push_back(length);
-  for (const int length : lengths) {
+  for (const int length : Lengths(70, {255, 256, 257, 1000, Effort(100000, 10000)})) {
     for (const int magn : {0, 1, 100, 127}) {
       GuardedArray<Orb8s> out(static_cast<size_t>(length), static_cast<size_t>(length) % 5);
       ASSERT_EQ(legacy90orbsVectorJaehne_8s(out.data(), length, static_cast<Orb8s>(magn)), StatusOk);
@@ -251,9 +249,7 @@ TEST_P(JaehneTest, EightBitsFollowTheFormula) {
 }
 
 TEST_P(JaehneTest, ThirtyTwoBitsAreTheWavePlusItsMinimum) {
-  std::vector<int> lengths = {255, 256, 257, 1000, Effort(500000, 50000)};
-  for (int length = 1; length <= 40; ++length) lengths.push_back(length);
-  for (const int length : lengths) {
+  for (const int length : Lengths(40, {255, 256, 257, 1000, Effort(500000, 50000)})) {
     for (const Orb32u magn : {0u, 1u, 255u, 1000001u, 4294967295u}) {
       if (length > 1000 && magn < 1000000u) continue;
       GuardedArray<Orb32u> out(static_cast<size_t>(length), static_cast<size_t>(length) % 3);
@@ -276,21 +272,11 @@ TEST_P(JaehneTest, ThirtyTwoBitsAreTheWavePlusItsMinimum) {
 
 // ---- Statuses ----
 
-template <class T, class... Parameters>
-void CheckStatuses(OrbStatus (*function)(T*, Orb32s, Parameters...)) {
-  GuardedArray<T> out(4);
-  EXPECT_EQ(function(nullptr, 0, Parameters()...), StatusNullPointer);
-  for (const Orb32s length : {0, -1, std::numeric_limits<Orb32s>::min()}) {
-    EXPECT_EQ(function(out.data(), length, Parameters()...), StatusSize);
-  }
-  EXPECT_TRUE(out.Untouched());
-}
-
 TEST_P(RampTest, BadArgumentsGiveTheirStatusAndWriteNothing) {
-  ForEachRamp([](auto ramp) { CheckStatuses(ramp); });
-  CheckStatuses(legacy90orbsVectorSlope_8s);
-  CheckStatuses(legacy90orbsVectorJaehne_8s);
-  CheckStatuses(legacy90orbsVectorJaehne_32u);
+  const auto check = [](auto* function) { CheckBadCalls(function); };
+  ForEachRamp(check);
+  ForEachFunction(check, ORBS_NAMED(legacy90orbsVectorSlope_8s), ORBS_NAMED(legacy90orbsVectorJaehne_8s),
+                  ORBS_NAMED(legacy90orbsVectorJaehne_32u));
 
   GuardedArray<Orb8s> out(4);
   EXPECT_EQ(legacy90orbsVectorJaehne_8s(out.data(), 0, -1), StatusSize);

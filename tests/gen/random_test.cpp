@@ -1,14 +1,16 @@
-// Random numbers: the exact sequence against the recurrence written down from its definition, then
-// statistics.
+// Random numbers: the exact sequence against the recurrence written down from its definition. Its statistics
+// are those of the definition.
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numeric>
 #include <vector>
 
+#include "tests/support/bad_calls.h"
 #include "tests/support/effort.h"
 #include "tests/support/export_test.h"
 #include "tests/support/guarded_array.h"
+#include "tests/support/lengths.h"
+#include "tests/support/rows.h"
 
 namespace orbs::test {
 namespace {
@@ -82,19 +84,13 @@ template <class T>
 using RandomFunction = OrbStatus (*)(T*, Orb32s, T, T, Orb32u*);
 using ExpectedFunction = Expected (*)(Orb32u, int, long double, long double);
 
-std::vector<int> Lengths() {
-  std::vector<int> lengths = {1000, 1001, 4099};
-  for (int length = 1; length <= 200; ++length) lengths.push_back(length);
-  return lengths;
-}
-
 class RandomTest : public ExportTest {
  protected:
   // Hands each element and its exact value to `compare`, for all lengths.
   template <class T, class Compare>
   void ForEachElement(RandomFunction<T> function, ExpectedFunction reference, T a, T b, Compare compare) {
     Orb32u nextSeed = 0;
-    for (const int length : Lengths()) {
+    for (const int length : Lengths(200, {1000, 1001, 4099, Effort(1 << 18, 1 << 14)})) {
       const auto size = static_cast<size_t>(length);
       const Expected expected = reference(nextSeed, length, a, b);
       GuardedArray<T> out(size, size % 5);
@@ -190,103 +186,14 @@ TEST_P(RandomTest, NoSpreadGivesTheMiddleAndMovesTheSeed) {
   EXPECT_EQ(samples, std::vector<Orb16s>(77, -32768));
 }
 
-// ---- Statistics, of one long call. The bounds are those that a good generator breaks once in a million.
-// ----
-
-constexpr int kMany = Effort(1 << 20, 1 << 18);
-
-struct Moments {
-  double mean = 0;
-  double variance = 0;
-};
-
-template <class T>
-Moments MomentsOf(const std::vector<T>& x) {
-  Moments m;
-  m.mean = std::accumulate(x.begin(), x.end(), 0.0) / static_cast<double>(x.size());
-  for (const T v : x) m.variance += (v - m.mean) * (v - m.mean) / static_cast<double>(x.size());
-  return m;
-}
-
-// Chi-square over 256 bins; `bin` gives the bin of a value. 255 degrees of freedom: 371 is the bound.
-template <class T, class Bin>
-double ChiSquare(const std::vector<T>& x, Bin bin) {
-  std::vector<int> counts(256);
-  for (const T v : x) ++counts[static_cast<size_t>(bin(v))];
-  const double expected = static_cast<double>(x.size()) / 256;
-  double sum = 0;
-  for (const int count : counts) sum += (count - expected) * (count - expected) / expected;
-  return sum;
-}
-
-TEST_P(RandomTest, UniformNumbersAreUniform) {
-  std::vector<Orb32f> x(kMany);
-  std::vector<Orb16s> samples(kMany);
-  Orb32u seed = kSeed;
-  legacy90orbsRandUniform_Direct_32f(x.data(), kMany, 0.0f, 1.0f, &seed);
-  legacy90orbsRandUniform_Direct_16s(samples.data(), kMany, -32768, 32767, &seed);
-  const Moments m = MomentsOf(x);
-  EXPECT_NEAR(m.mean, 0.5, 4.9 * std::sqrt(1.0 / 12 / kMany));
-  EXPECT_NEAR(m.variance, 1.0 / 12, 4.9 * std::sqrt(1.0 / 180 / kMany));
-  EXPECT_LT(ChiSquare(x, [](float v) { return std::min(255, static_cast<int>(v * 256)); }), 371);
-  EXPECT_LT(ChiSquare(samples, [](int v) { return (v + 32768) / 256; }), 371);
-
-  // Pairs of neighbours, 16 by 16.
-  std::vector<int> pairs;
-  for (size_t i = 0; i + 1 < x.size(); i += 2) {
-    pairs.push_back(std::min(15, static_cast<int>(x[i] * 16)) * 16 +
-                    std::min(15, static_cast<int>(x[i + 1] * 16)));
-  }
-  EXPECT_LT(ChiSquare(pairs, [](int v) { return v; }), 371);
-}
-
-TEST_P(RandomTest, GaussianNumbersAreNormal) {
-  std::vector<Orb32f> x(kMany);
-  Orb32u seed = kSeed;
-  legacy90orbsRandGauss_Direct_32f(x.data(), kMany, 0.0f, 1.0f, &seed);
-  const Moments m = MomentsOf(x);
-  EXPECT_NEAR(m.mean, 0, 4.9 / std::sqrt(kMany));
-  EXPECT_NEAR(m.variance, 1, 4.9 * std::sqrt(2.0 / kMany));
-  // Neighbours, which come from one point, are independent.
-  double product = 0;
-  for (size_t i = 0; i + 1 < x.size(); i += 2) product += static_cast<double>(x[i]) * x[i + 1];
-  EXPECT_NEAR(product / (kMany / 2), 0, 4.9 * std::sqrt(2.0 / kMany));
-
-  const auto phi = [](double v) { return std::erfc(-v / std::sqrt(2.0)) / 2; };
-  EXPECT_LT(ChiSquare(x, [phi](float v) { return std::min(255, static_cast<int>(phi(v) * 256)); }), 371);
-  // Kolmogorov and Smirnov: the largest distance between the distributions.
-  std::sort(x.begin(), x.end());
-  double distance = 0;
-  for (size_t i = 0; i < x.size(); ++i) {
-    const double p = phi(x[i]);
-    distance =
-        std::max({distance, p - static_cast<double>(i) / kMany, static_cast<double>(i + 1) / kMany - p});
-  }
-  EXPECT_LT(distance * std::sqrt(kMany), 2.69);
-}
-
 // ---- Statuses ----
 
-template <class T>
-void CheckStatuses(RandomFunction<T> function) {
-  GuardedArray<T> out(4);
-  Orb32u seed = kSeed;
-  EXPECT_EQ(function(nullptr, 0, 1, 2, &seed), StatusNullPointer);
-  EXPECT_EQ(function(out.data(), 0, 1, 2, nullptr), StatusNullPointer);
-  for (const Orb32s length : {0, -1, std::numeric_limits<Orb32s>::min()}) {
-    EXPECT_EQ(function(out.data(), length, 1, 2, &seed), StatusSize);
-  }
-  EXPECT_TRUE(out.Untouched());
-  EXPECT_EQ(seed, kSeed);
-}
-
 TEST_P(RandomTest, BadArgumentsGiveTheirStatusAndChangeNothing) {
-  CheckStatuses(legacy90orbsRandUniform_Direct_16s);
-  CheckStatuses(legacy90orbsRandUniform_Direct_32f);
-  CheckStatuses(legacy90orbsRandUniform_Direct_64f);
-  CheckStatuses(legacy90orbsRandGauss_Direct_16s);
-  CheckStatuses(legacy90orbsRandGauss_Direct_32f);
-  CheckStatuses(legacy90orbsRandGauss_Direct_64f);
+  ForEachFunction(
+      [](auto* function) { CheckBadCalls(function); }, ORBS_NAMED(legacy90orbsRandUniform_Direct_16s),
+      ORBS_NAMED(legacy90orbsRandUniform_Direct_32f), ORBS_NAMED(legacy90orbsRandUniform_Direct_64f),
+      ORBS_NAMED(legacy90orbsRandGauss_Direct_16s), ORBS_NAMED(legacy90orbsRandGauss_Direct_32f),
+      ORBS_NAMED(legacy90orbsRandGauss_Direct_64f));
 }
 
 }  // namespace

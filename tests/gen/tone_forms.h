@@ -1,46 +1,63 @@
-// The six result types of tones and triangles, and the distance of samples.
+// What the tests of tones and of triangles share: six result types, the distance of samples, states.
 #ifndef ORBS_TESTS_GEN_TONE_FORMS_H
 #define ORBS_TESTS_GEN_TONE_FORMS_H
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
 #include <type_traits>
+#include <vector>
 
 #include "orbs90lgc.h"
+#include "tests/support/samples.h"
 
 namespace orbs::test {
 
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+constexpr Orb32f kLastPhase = 6.283185f;  // the last binary32 number below 2 pi
+constexpr Orb32s kLastPhaseQ15 = 205886;
+
 template <class Sample>
-struct FormOf {
-  using Part = Sample;
-  using Real = std::conditional_t<std::is_same_v<Sample, Orb64f>, Orb64f, Orb32f>;
-  static constexpr bool kComplex = false;
-};
-template <>
-struct FormOf<Orb32fc> : FormOf<Orb32f> {
-  static constexpr bool kComplex = true;
-};
-template <>
-struct FormOf<Orb64fc> : FormOf<Orb64f> {
-  static constexpr bool kComplex = true;
-};
-template <>
-struct FormOf<Orb16sc> : FormOf<Orb16s> {
-  static constexpr bool kComplex = true;
-};
+using Part = PartOf<Sample>;
 template <class Sample>
-using Part = typename FormOf<Sample>::Part;
-template <class Sample>
-using Real = typename FormOf<Sample>::Real;
+using Real = std::conditional_t<std::is_same_v<Part<Sample>, Orb64f>, Orb64f, Orb32f>;
 
 template <class Sample>
 double Distance(Sample a, Sample b) {
-  if constexpr (FormOf<Sample>::kComplex) {
-    return std::max(Distance(a.re, b.re), Distance(a.im, b.im));
-  } else {
-    return std::fabs(static_cast<double>(a) - static_cast<double>(b));
-  }
+  return static_cast<double>(PartDistance(ToExact(a), ToExact(b)));
 }
+
+// A state's samples in calls of many lengths.
+template <class Run>
+std::vector<Orb16s> InPieces(size_t total, const Run& run) {
+  std::vector<Orb16s> samples(total);
+  std::mt19937 engine(1);
+  for (size_t done = 0; done < total;) {
+    const size_t n = std::min<size_t>(engine() % 90 + 1, total - done);
+    EXPECT_EQ(run(samples.data() + done, static_cast<Orb32s>(n)), StatusOk);
+    done += n;
+  }
+  return samples;
+}
+
+// Memory with nothing but a state in it.
+template <size_t kBytes>
+struct StateMemory {
+  static constexpr size_t kMost = kBytes + 16;
+  alignas(16) unsigned char bytes[kMost];
+
+  StateMemory() { std::memset(bytes, 0xA5, kMost); }
+  bool HoldsNothingBut(size_t offset) const {
+    for (size_t i = 0; i < kMost; ++i) {
+      if ((i < offset || i >= offset + kBytes) && bytes[i] != 0xA5) return false;
+    }
+    return true;
+  }
+};
 
 // Whether y is a value within `error` of the exact one, delivered as the direct forms do: 16 bits cut toward
 // zero.

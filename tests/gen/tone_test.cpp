@@ -11,33 +11,29 @@
 #include "tests/support/export_test.h"
 #include "tests/support/failing_allocator.h"
 #include "tests/support/guarded_array.h"
+#include "tests/support/lengths.h"
+#include "tests/support/rows.h"
 
 namespace orbs::test {
 namespace {
 
-constexpr long double kTwoPi = 6.283185307179586476925286766559005768L;
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr Orb32f kLastPhase = 6.283185f;  // the last binary32 number below 2 pi
-constexpr Orb32s kLastPhaseQ15 = 205886;
+constexpr long double kTwoPi = 2 * kPi;
 
 template <class Sample>
 using Function = OrbStatus (*)(Sample*, Orb32s, Part<Sample>, Real<Sample>, Real<Sample>*, OrbAlgHint);
 
 template <class Check>
-void ForEachForm(Check check) {
-  check(legacy90orbsTone_Direct_32f);
-  check(legacy90orbsTone_Direct_64f);
-  check(legacy90orbsTone_Direct_32fc);
-  check(legacy90orbsTone_Direct_64fc);
-  check(legacy90orbsTone_Direct_16s);
-  check(legacy90orbsTone_Direct_16sc);
+void ForEachForm(const Check& check) {
+  ForEachFunction(check, ORBS_NAMED(legacy90orbsTone_Direct_32f), ORBS_NAMED(legacy90orbsTone_Direct_64f),
+                  ORBS_NAMED(legacy90orbsTone_Direct_32fc), ORBS_NAMED(legacy90orbsTone_Direct_64fc),
+                  ORBS_NAMED(legacy90orbsTone_Direct_16s), ORBS_NAMED(legacy90orbsTone_Direct_16sc));
 }
 
 template <class Sample>
 Sample Exact(long double magn, double rFreq, double phase, long long n) {
   const long double angle = kTwoPi * std::fmod(static_cast<long double>(n) * rFreq, 1.0L) + phase;
   const auto part = [&](long double y) { return static_cast<Part<Sample>>(magn * y); };
-  if constexpr (FormOf<Sample>::kComplex) {
+  if constexpr (kIsComplex<Sample>) {
     return {part(std::cos(angle)), part(std::sin(angle))};
   } else {
     return part(std::cos(angle));
@@ -57,7 +53,7 @@ template <class Sample>
 std::vector<Orb64fc> ExactSamples(double magn, double rFreq, double phase, size_t count) {
   std::vector<Orb64fc> exact;
   for (long long n = 0; n < static_cast<long long>(count); ++n) {
-    if constexpr (FormOf<Sample>::kComplex) {
+    if constexpr (kIsComplex<Sample>) {
       exact.push_back(Exact<Orb64fc>(magn, rFreq, phase, n));
     } else {
       exact.push_back({Exact<Orb64f>(magn, rFreq, phase, n), 0});
@@ -69,7 +65,7 @@ std::vector<Orb64fc> ExactSamples(double magn, double rFreq, double phase, size_
 template <class Sample>
 bool IsSample(Sample y, double magn, Orb64fc exact, OrbAlgHint hint) {
   const double error = Tolerance<Sample>(hint, magn);
-  if constexpr (FormOf<Sample>::kComplex) {
+  if constexpr (kIsComplex<Sample>) {
     return IsDelivered(y.re, exact.re, error) && IsDelivered(y.im, exact.im, error);
   } else {
     return IsDelivered(y, exact.re, error);
@@ -85,7 +81,7 @@ void CheckFormula(Function<Sample> tone) {
   // At 3e-4 the binary32 coefficient of the recurrence is as far off as it can be.
   std::vector<double> frequencies = {0,         1e-9, 3e-4,      0.0123, 0.0625,   0.125,
                                      0.1250001, 0.3,  0.2499999, 0.25,   0.4999999};
-  if (FormOf<Sample>::kComplex) frequencies.insert(frequencies.end(), {0.5, 0.6250001, 0.9999999});
+  if (kIsComplex<Sample>) frequencies.insert(frequencies.end(), {0.5, 0.6250001, 0.9999999});
   const auto magn = static_cast<Part<Sample>>(31234);
   constexpr size_t kCount = Effort(2900, 1600);  // the last block with segments of full length
   std::vector<Sample> dst(kCount);
@@ -115,8 +111,7 @@ void CheckLengths(Function<Sample> tone) {
   using T = Real<Sample>;
   const auto magn = static_cast<Part<Sample>>(1000);
   const auto rFreq = static_cast<T>(0.0371);
-  std::vector<int> lengths = {511, 512, 513, 700, 1023, 1024, 1025, 1087, 1088, 2048, 2050};
-  for (int i = 1; i <= 300; ++i) lengths.push_back(i);
+  const auto lengths = Lengths(300, {511, 512, 513, 700, 1023, 1024, 1025, 1087, 1088, 2048, 2050});
   const auto exact = ExactSamples<Sample>(magn, rFreq, 0.5, 2050);
   for (OrbAlgHint hint : {HintFast, HintAccurate}) {
     for (int length : lengths) {
@@ -149,7 +144,7 @@ TEST_P(ToneTest, TenMillionSamplesKeepFrequencyAndAmplitude) {
       ASSERT_EQ(legacy90orbsTone_Direct_32fc(complex.data(), kCount, 1, rFreq, &phaseOfPairs, hint),
                 StatusOk);
       // The recurrence of px runs on over all of them.
-      const double drift = GetParam() == Variant::px ? 1e-5 : 0;
+      const double drift = IsPx() ? 1e-5 : 0;
       const double tolerance = Tolerance<Orb32f>(hint, 1) + drift;
       for (Orb32s i = 0; i < kCount; i += 997) {
         const auto at = static_cast<size_t>(i);
@@ -165,7 +160,7 @@ TEST_P(ToneTest, TenMillionSamplesKeepFrequencyAndAmplitude) {
 TEST_P(ToneTest, AMillionSamplesKeepEveryBitOfTheAngle) {
   constexpr Orb32s kCount = Effort(1'000'000, 200'000);
   constexpr Orb32s kMore = 100;
-  const double tolerance = GetParam() == Variant::px ? 1e-8 : 1e-12;
+  const double tolerance = IsPx() ? 1e-8 : 1e-12;
   std::vector<Orb64f> dst(kCount + kMore);
   for (const Orb64f rFreq : {0.4567891234567, 0.0123456789}) {
     Orb64f phase = 1;
@@ -270,7 +265,7 @@ void CheckStatuses(Function<Sample> tone) {
   using T = Real<Sample>;
   GuardedArray<Sample> dst(4);
   const Part<Sample> good = 1;
-  const T limit = FormOf<Sample>::kComplex ? T(1) : T(0.5);
+  const T limit = kIsComplex<Sample> ? T(1) : T(0.5);
   const T wrong[] = {T(-1e-30), limit, T(kNan)};
   const auto call = [&](Sample* to, Orb32s len, Part<Sample> magn, T rFreq, T phase) {
     const T before = phase;
@@ -326,22 +321,14 @@ TEST_P(ToneTest, Q15BlocksAreRoundedCosinesOfEveryLength) {
 
 TEST_P(ToneTest, AStateGoesOnAtAnyAddress) {
   for (size_t offset : {0, 1, 4, 7}) {
-    alignas(16) unsigned char memory[64];
-    std::memset(memory, 0xA5, sizeof memory);
-    auto* state = reinterpret_cast<ToneState*>(memory + offset);
+    StateMemory<48> memory;
+    auto* state = reinterpret_cast<ToneState*>(memory.bytes + offset);
     ASSERT_EQ(legacy90orbsToneInitQ15_16s(state, 20000, 777, 1234), StatusOk);
-    for (size_t i = 0; i < sizeof memory; ++i) {
-      ASSERT_TRUE((i >= offset && i < offset + 48) || memory[i] == 0xA5) << i;
-    }
+    ASSERT_TRUE(memory.HoldsNothingBut(offset));
     std::vector<Orb16s> one(3000);
     legacy90orbsToneQ15_Direct_16s(one.data(), 3000, 20000, 777, 1234);
-    std::vector<Orb16s> many(3000);
-    std::mt19937 engine(1);
-    for (size_t done = 0; done < 3000;) {
-      const size_t n = std::min<size_t>(engine() % 90 + 1, 3000 - done);
-      ASSERT_EQ(legacy90orbsToneQ15_16s(many.data() + done, static_cast<Orb32s>(n), state), StatusOk);
-      done += n;
-    }
+    std::vector<Orb16s> many =
+        InPieces(3000, [&](Orb16s* dst, Orb32s n) { return legacy90orbsToneQ15_16s(dst, n, state); });
     EXPECT_EQ(many, one);
     EXPECT_EQ(legacy90orbsToneFree(state), StatusOk);  // leaves it usable
     EXPECT_EQ(legacy90orbsToneQ15_16s(many.data(), 1, state), StatusOk);
@@ -403,21 +390,17 @@ TEST_P(ToneTest, StatusesOfTheQ15Forms) {
 }
 
 TEST_P(ToneTest, AllocatedStatesAreReleased) {
-  {
-    FailingAllocator heap(orbsSetAllocator, 0);
+  FailEachAllocation(orbsSetAllocator, [](FailingAllocator& heap) {
     ToneState* state = nullptr;
-    EXPECT_EQ(legacy90orbsToneInitAllocQ15_16s(&state, 1, 1, 1), StatusMemAlloc);
-    EXPECT_EQ(state, nullptr);
-  }
-  FailingAllocator heap(orbsSetAllocator, FailingAllocator::kNever);
-  ToneState* state = nullptr;
-  ASSERT_EQ(legacy90orbsToneInitAllocQ15_16s(&state, 100, 8192, 0), StatusOk);
-  Orb16s dst[4];
-  EXPECT_EQ(legacy90orbsToneQ15_16s(dst, 4, state), StatusOk);
-  EXPECT_EQ(std::vector<Orb16s>(dst, dst + 4), (std::vector<Orb16s>{100, 0, -100, 0}));
-  EXPECT_EQ(heap.Alive(), 1);
-  EXPECT_EQ(legacy90orbsToneFree(state), StatusOk);
-  EXPECT_EQ(heap.Alive(), 0);
+    const OrbStatus status = legacy90orbsToneInitAllocQ15_16s(&state, 100, 8192, 0);
+    EXPECT_EQ(heap.Alive(), state == nullptr ? 0 : 1);
+    if (status != StatusOk) return status;
+    Orb16s dst[4];
+    EXPECT_EQ(legacy90orbsToneQ15_16s(dst, 4, state), StatusOk);
+    EXPECT_EQ(std::vector<Orb16s>(dst, dst + 4), (std::vector<Orb16s>{100, 0, -100, 0}));
+    EXPECT_EQ(legacy90orbsToneFree(state), StatusOk);
+    return status;
+  });
 }
 
 }  // namespace

@@ -10,28 +10,24 @@
 #include "tests/support/export_test.h"
 #include "tests/support/failing_allocator.h"
 #include "tests/support/guarded_array.h"
+#include "tests/support/lengths.h"
+#include "tests/support/rows.h"
 
 namespace orbs::test {
 namespace {
 
-constexpr long double kPi = 3.14159265358979323846264338327950288L;
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr Orb32f kLastPhase = 6.283185f;       // the last binary32 number below 2 pi
 constexpr Orb32f kLastAsymmetry = 3.1415925f;  // and below pi
-constexpr Orb32s kLastPhaseQ15 = 205886;
 constexpr Orb32s kLastAsymmetryQ15 = 102943;
 
 template <class Sample>
 using Function = OrbStatus (*)(Sample*, Orb32s, Part<Sample>, Real<Sample>, Real<Sample>, Real<Sample>*);
 
 template <class Check>
-void ForEachForm(Check check) {
-  check(legacy90orbsTriangle_Direct_32f);
-  check(legacy90orbsTriangle_Direct_64f);
-  check(legacy90orbsTriangle_Direct_32fc);
-  check(legacy90orbsTriangle_Direct_64fc);
-  check(legacy90orbsTriangle_Direct_16s);
-  check(legacy90orbsTriangle_Direct_16sc);
+void ForEachForm(const Check& check) {
+  ForEachFunction(check, ORBS_NAMED(legacy90orbsTriangle_Direct_32f),
+                  ORBS_NAMED(legacy90orbsTriangle_Direct_64f), ORBS_NAMED(legacy90orbsTriangle_Direct_32fc),
+                  ORBS_NAMED(legacy90orbsTriangle_Direct_64fc), ORBS_NAMED(legacy90orbsTriangle_Direct_16s),
+                  ORBS_NAMED(legacy90orbsTriangle_Direct_16sc));
 }
 
 struct Wave {
@@ -80,7 +76,7 @@ void ExpectPart(T y, const Wave& wave, long long n, bool ahead) {
 
 template <class Sample>
 void ExpectSample(Sample y, const Wave& wave, long long n) {
-  if constexpr (FormOf<Sample>::kComplex) {
+  if constexpr (kIsComplex<Sample>) {
     ExpectPart(y.re, wave, n, false);
     ExpectPart(y.im, wave, n, true);
   } else {
@@ -129,9 +125,7 @@ void CheckLengths(Function<Sample> triangle) {
   const auto magn = static_cast<Part<Sample>>(1000);
   const auto rFreq = static_cast<T>(0.0371);
   const Wave wave = {1000, rFreq, 0.5, 0.25};
-  std::vector<int> lengths = {1023, 1024, 1025, 2050};
-  for (int i = 1; i <= 70; ++i) lengths.push_back(i);
-  for (int length : lengths) {
+  for (int length : Lengths(70, {1023, 1024, 1025, 2050})) {
     const auto n = static_cast<size_t>(length);
     GuardedArray<Sample> dst(n, n % 3);
     T phase = T(0.25);
@@ -300,31 +294,27 @@ TEST_P(TriangleTest, AStateGoesOnAtAnyAddress) {
   for (const Case& c : {Case{777, 1234, 0}, Case{3, 200000, 50000}, Case{0, 100000, 0},
                         Case{16383, 99, 102943}, Case{12345, 0, -102943}, Case{4096, 0, 0}}) {
     for (size_t offset : {0, 1, 4, 7}) {
-      alignas(16) unsigned char memory[160];
-      std::memset(memory, 0xA5, sizeof memory);
-      auto* state = reinterpret_cast<TriangleState*>(memory + offset);
+      StateMemory<136> memory;
+      auto* state = reinterpret_cast<TriangleState*>(memory.bytes + offset);
+      const auto start = [&] {
+        EXPECT_EQ(legacy90orbsTriangleInitQ15_16s(state, 20000, c.rFreq, c.phase, c.asym), StatusOk);
+      };
       std::vector<Orb16s> inOne(3000);
-      std::vector<Orb16s> inMany(3000);
       std::vector<Orb16s> oneByOne(3000);
-      ASSERT_EQ(legacy90orbsTriangleInitQ15_16s(state, 20000, c.rFreq, c.phase, c.asym), StatusOk);
+      start();
       ASSERT_EQ(legacy90orbsTriangleQ15_16s(inOne.data(), 3000, state), StatusOk);
-      legacy90orbsTriangleInitQ15_16s(state, 20000, c.rFreq, c.phase, c.asym);
-      std::mt19937 engine(1);
-      for (size_t done = 0; done < 3000;) {
-        const size_t n = std::min<size_t>(engine() % 90 + 1, 3000 - done);
-        ASSERT_EQ(legacy90orbsTriangleQ15_16s(inMany.data() + done, static_cast<Orb32s>(n), state), StatusOk);
-        done += n;
-      }
+      start();
+      const auto inMany =
+          InPieces(3000, [&](Orb16s* dst, Orb32s n) { return legacy90orbsTriangleQ15_16s(dst, n, state); });
       EXPECT_EQ(inMany, inOne);
-      legacy90orbsTriangleInitQ15_16s(state, 20000, c.rFreq, c.phase, c.asym);
+      start();
       for (Orb16s& sample : oneByOne) legacy90orbsTriangleQ15_16s(&sample, 1, state);
       EXPECT_EQ(oneByOne, inOne);
 
       const Wave wave = {20000, c.rFreq / 32768.0, c.asym / 32768.0, c.phase / 32768.0};
       for (size_t i = 0; i < inOne.size(); ++i)
         ASSERT_NEAR(inOne[i], static_cast<double>(wave.Exact(static_cast<long long>(i), false)), 0.5001) << i;
-      for (size_t i = 0; i < sizeof memory; ++i)
-        ASSERT_TRUE((i >= offset && i < offset + 136) || memory[i] == 0xA5) << i;
+      ASSERT_TRUE(memory.HoldsNothingBut(offset));
       EXPECT_EQ(legacy90orbsTriangleFree(state), StatusOk);  // leaves it usable
       EXPECT_EQ(legacy90orbsTriangleQ15_16s(inOne.data(), 1, state), StatusOk);
     }
@@ -375,21 +365,17 @@ TEST_P(TriangleTest, StatusesOfTheQ15Forms) {
 }
 
 TEST_P(TriangleTest, AllocatedStatesAreReleased) {
-  {
-    FailingAllocator heap(orbsSetAllocator, 0);
+  FailEachAllocation(orbsSetAllocator, [](FailingAllocator& heap) {
     TriangleState* state = nullptr;
-    EXPECT_EQ(legacy90orbsTriangleInitAllocQ15_16s(&state, 1, 1, 1, 1), StatusMemAlloc);
-    EXPECT_EQ(state, nullptr);
-  }
-  FailingAllocator heap(orbsSetAllocator, FailingAllocator::kNever);
-  TriangleState* state = nullptr;
-  ASSERT_EQ(legacy90orbsTriangleInitAllocQ15_16s(&state, 100, 8192, 0, 0), StatusOk);
-  Orb16s dst[4];
-  EXPECT_EQ(legacy90orbsTriangleQ15_16s(dst, 4, state), StatusOk);
-  EXPECT_EQ(std::vector<Orb16s>(dst, dst + 4), (std::vector<Orb16s>{100, 0, -100, 0}));
-  EXPECT_EQ(heap.Alive(), 1);
-  EXPECT_EQ(legacy90orbsTriangleFree(state), StatusOk);
-  EXPECT_EQ(heap.Alive(), 0);
+    const OrbStatus status = legacy90orbsTriangleInitAllocQ15_16s(&state, 100, 8192, 0, 0);
+    EXPECT_EQ(heap.Alive(), state == nullptr ? 0 : 1);
+    if (status != StatusOk) return status;
+    Orb16s dst[4];
+    EXPECT_EQ(legacy90orbsTriangleQ15_16s(dst, 4, state), StatusOk);
+    EXPECT_EQ(std::vector<Orb16s>(dst, dst + 4), (std::vector<Orb16s>{100, 0, -100, 0}));
+    EXPECT_EQ(legacy90orbsTriangleFree(state), StatusOk);
+    return status;
+  });
 }
 
 }  // namespace

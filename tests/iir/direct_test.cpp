@@ -2,12 +2,12 @@
 // the formula in extended precision.
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "tests/support/export_test.h"
 #include "tests/support/failing_allocator.h"
 #include "tests/support/guarded_array.h"
 #include "tests/support/random_data.h"
+#include "tests/support/samples.h"
 
 namespace orbs::test {
 namespace {
@@ -38,9 +38,7 @@ int64_t ExactStep(int64_t x, const Orb16s* taps, size_t n, Orb32s* d) {
   }
   return y;
 }
-Orb16s Saturated(int64_t y) {
-  return static_cast<Orb16s>(std::min<int64_t>(32767, std::max<int64_t>(-32768, y)));
-}
+Orb16s Saturated(int64_t y) { return static_cast<Orb16s>(LimitedTo16Bits(static_cast<long double>(y))); }
 
 // Taps over their whole range make sums wrap; every shift count, those of 32 and more by their low five bits.
 TEST_P(IirDirectTest, SingleSamplesAreExactIntegers) {
@@ -131,6 +129,9 @@ void ExactBlock(std::vector<long double>* x, const Orb16s* taps, size_t n, std::
   }
 }
 
+// Half a unit, and what binary32 adds to it.
+constexpr long double kRoundingError = 0.6L;
+
 TEST_P(IirDirectTest, BlocksOfAnyOrderAndLength) {
   for (bool biQuads : {false, true}) {
     for (int n : {1, 2, 3, 4, 5, 8, 11, 20}) {
@@ -165,15 +166,16 @@ TEST_P(IirDirectTest, BlocksOfAnyOrderAndLength) {
         }
         ASSERT_TRUE(y.GuardsIntact() && delay.GuardsIntact());
         for (size_t i = 0; i < y.size(); ++i) {
-          const long double limited = std::min(32767.0L, std::max(-32768.0L, expected[i]));
-          ASSERT_LE(std::abs(y[i] - limited), 0.6L)
+          ASSERT_LE(std::abs(y[i] - LimitedTo16Bits(expected[i])), kRoundingError)
               << n << (biQuads ? " biquads" : " order") << ", length " << length << ", sample " << i;
         }
         // The delay line is rounded at the end of each call, to a unit of 2^-s, and holds 24 bits.
         for (size_t i = 0; i < delay.size(); ++i) {
           long double& element = exact[i / order][i % order];
           const int shift = taps[i / order * (2 * order + 2) + order + 1] & 127;
-          ASSERT_LE(std::abs(delay[i] - std::ldexp(element, shift)), 0.6L + std::ldexp(0.02L, shift)) << i;
+          ASSERT_LE(std::abs(delay[i] - std::ldexp(element, shift)),
+                    kRoundingError + std::ldexp(0.02L, shift))
+              << i;
           element = std::ldexp(static_cast<long double>(delay[i]), -shift);
         }
       }
@@ -243,29 +245,29 @@ TEST_P(IirDirectTest, DelayLinesAreRoundedBack) {
     Orb16s a1, s;
     Orb32s d0, order, biQuad;
   };
-  const Row rows[] = {
-      {-1, 1, 1, 1, 0},
-      {-1, 1, 3, 2, 2},
-      {-1, 1, 5, 3, 2},
-      {1, 1, 1, -1, 0},
-      {1, 1, 3, -2, -2},
-      {-3, 2, 2, 2, 2},
-      {-3, 2, 3, 2, 2},
-      {-3, 2, 1, 1, 1},
-      {-32768, 0, 70000, 2147483647, 2147483647},
-      {32767, 0, 70000, std::numeric_limits<Orb32s>::min(), std::numeric_limits<Orb32s>::min()},
-      {-32768, 0, -65536, std::numeric_limits<Orb32s>::min(), std::numeric_limits<Orb32s>::min()}};
+  const Row rows[] = {{-1, 1, 1, 1, 0},
+                      {-1, 1, 3, 2, 2},
+                      {-1, 1, 5, 3, 2},
+                      {1, 1, 1, -1, 0},
+                      {1, 1, 3, -2, -2},
+                      {-3, 2, 2, 2, 2},
+                      {-3, 2, 3, 2, 2},
+                      {-3, 2, 1, 1, 1},
+                      {-32768, 0, 70000, 2147483647, 2147483647},
+                      {32767, 0, 70000, kLeast, kLeast},
+                      {-32768, 0, -65536, kLeast, kLeast}};
   for (const Row& row : rows) {
+    SCOPED_TRACE(testing::Message() << "a[1] " << row.a1 << ", s " << row.s << ", d[0] " << row.d0);
     const Orb16s taps[] = {0, 0, row.s, row.a1};
     const Orb16s section[] = {0, 0, 0, row.s, row.a1, 0};
     const Orb16s zero = 0;
     Orb16s y = 0;
     Orb32s delay = row.d0;
     ASSERT_EQ(Block(&zero, &y, 1, taps, 1, &delay), StatusOk);
-    EXPECT_EQ(delay, row.order) << &row - rows;
+    EXPECT_EQ(delay, row.order);
     Orb32s pair[2] = {row.d0, 0};
     ASSERT_EQ(BlockBiQuad(&zero, &y, 1, section, 1, pair), StatusOk);
-    EXPECT_EQ(pair[0], row.biQuad) << &row - rows;
+    EXPECT_EQ(pair[0], row.biQuad);
   }
 }
 

@@ -5,7 +5,7 @@
 #include "tests/iir/filters.h"
 #include "tests/support/effort.h"
 #include "tests/support/export_test.h"
-#include "tests/support/guarded_array.h"
+#include "tests/support/filter_calls.h"
 #include "tests/support/random_data.h"
 
 namespace orbs::test {
@@ -13,37 +13,10 @@ namespace {
 
 class IirFilterTest : public ExportTest {
  protected:
-  bool IsPx() const { return GetParam() == Variant::px; }
-
-  // Runs x through the state in calls of these sizes, over and over: 0 is a one-sample call, a negative count
-  // a block in place.
   template <class F>
   static std::vector<typename F::Data> Run(IIRState* state, const std::vector<typename F::Data>& x,
-                                           const std::vector<int>& counts, Orb32s scaleFactor) {
-    using Data = typename F::Data;
-    std::vector<Data> y;
-    for (size_t call = 0; y.size() < x.size(); ++call) {
-      const int count = counts[call % counts.size()];
-      const size_t size =
-          std::min(static_cast<size_t>(count == 0 ? 1 : std::abs(count)), x.size() - y.size());
-      const auto first = x.begin() + static_cast<ptrdiff_t>(y.size());
-      const std::vector<Data> piece(first, first + static_cast<ptrdiff_t>(size));
-      const GuardedArray<Data> source(piece, call % 3);
-      GuardedArray<Data> result(size, call % 2);
-      if (count == 0) {
-        EXPECT_EQ(F::One(source[0], result.data(), state, scaleFactor), StatusOk);
-      } else if (count > 0) {
-        EXPECT_EQ(F::Block(source.data(), result.data(), static_cast<Orb32s>(size), state, scaleFactor),
-                  StatusOk);
-      } else {
-        std::copy(piece.begin(), piece.end(), result.data());
-        EXPECT_EQ(F::InPlace(result.data(), static_cast<Orb32s>(size), state, scaleFactor), StatusOk);
-      }
-      EXPECT_TRUE(result.GuardsIntact());
-      const auto values = result.values();
-      y.insert(y.end(), values.begin(), values.end());
-    }
-    return y;
+                                           const std::vector<int>& calls, Orb32s scaleFactor) {
+    return RunCalls<F>(state, x, calls, scaleFactor).y;
   }
 
   // Results are whole numbers: beside the half that rounding takes, `error` in units of the last place.
@@ -51,14 +24,13 @@ class IirFilterTest : public ExportTest {
   static void ExpectNear(const std::vector<typename F::Data>& y, const std::vector<Exact>& expected,
                          Orb32s scaleFactor, double error, const std::string& what) {
     const auto near = [error](long double result, long double exact) {
-      const long double limited = std::min(32767.0L, std::max(-32768.0L, exact));
-      return std::abs(result - limited) <= 0.5L + error;
+      return std::abs(result - LimitedTo16Bits(exact)) <= 0.5L + error;
     };
     for (size_t i = 0; i < y.size(); ++i) {
       const Exact result = ToExact(y[i]);
       const Exact exact = expected[i] * std::ldexp(1.0L, -scaleFactor);
       ASSERT_TRUE(near(result.real(), exact.real()) && near(result.imag(), exact.imag()))
-          << F::kName << ", " << what << ", sample " << i << ": " << result << ", expected " << exact;
+          << what << ", sample " << i << ": " << result << ", expected " << exact;
     }
   }
 
@@ -92,7 +64,7 @@ TEST_P(IirFilterTest, StreamsCutAnywhereInMemoryOfTheCaller) {
                                      least + 6, 5,         least + 7,    -1100};
       const auto x = RandomArray<typename F::Data>(static_cast<size_t>(11 * least + 1300), 2);
       const auto y = Run<F>(state, x, cuts, 0);
-      ASSERT_TRUE(memory.GuardsIntact()) << F::kName << ", " << units;
+      ASSERT_TRUE(memory.GuardsIntact()) << units;
       ExpectNear<F>(y, ExactResults<F>(taps, units, x), 0, 0.2, std::to_string(units) + " units");
       EXPECT_EQ(F::Free(state), StatusOk);
     }
@@ -113,9 +85,8 @@ TEST_P(IirFilterTest, BlocksAndSingleSamplesGiveOneStream) {
       const auto one = Run<F>(whole, x, {5000}, 0);
       const auto other = Run<F>(cut, x, {0, 0, 0, 700, 1, 3, -60}, 0);
       for (size_t i = 0; i < x.size(); ++i) {
-        const Exact difference = ToExact(one[i]) - ToExact(other[i]);
-        ASSERT_LE(std::max(std::abs(difference.real()), std::abs(difference.imag())), IsPx() ? 0 : 1)
-            << F::kName << ", " << units << " units, sample " << i;
+        ASSERT_LE(PartDistance(ToExact(one[i]), ToExact(other[i])), IsPx() ? 0 : 1)
+            << units << " units, sample " << i;
       }
       F::Free(whole);
       F::Free(cut);
@@ -172,10 +143,7 @@ TEST_P(IirFilterTest, PolesNearBothEndsOfTheBand) {
       ExpectNear<F>(y, ExactResults<F>(held, F::kCascade ? 1 : 2, x), 0, 2.5, std::to_string(side));
       F::Free(state);
     };
-    run(FloatBiQuad{});
-    run(FloatOrder{});
-    run(FloatBiQuadC{});
-    run(FloatOrderC{});
+    ForEachFloatIir(run);
   }
 }
 
@@ -183,7 +151,7 @@ TEST_P(IirFilterTest, PolesNearBothEndsOfTheBand) {
 template <class F>
 std::vector<typename F::Tap> ButterworthTaps(int order, double turn) {
   using C = std::complex<double>;
-  const double w = std::tan(3.14159265358979 / 40);
+  const double w = std::tan(static_cast<double>(kPi) / 40);
   std::vector<C> a = {1};
   std::vector<C> b = {1};
   const auto multiply = [](std::vector<C>* p, C root) {
@@ -192,7 +160,7 @@ std::vector<typename F::Tap> ButterworthTaps(int order, double turn) {
   };
   C gain = 1;
   for (int k = 0; k < order; ++k) {
-    const C s = std::polar(w, 3.14159265358979 * (2 * k + order + 1) / (2 * order));
+    const C s = std::polar(w, static_cast<double>(kPi) * (2 * k + order + 1) / (2 * order));
     gain *= -s / (1.0 - s);
     multiply(&a, (1.0 + s) / (1.0 - s));
     multiply(&b, -1);
@@ -228,7 +196,7 @@ TEST_P(IirFilterTest, ClusteredPolesLoseNoMoreThanInSingleSamples) {
           most = std::max(most, std::abs(ToExact(y[i]) - exact[i] / 2.0L));
         return most;
       };
-      EXPECT_LE(error({3000}), error({0}) + 0.5L) << F::kName << ", order " << order;
+      EXPECT_LE(error({3000}), error({0}) + 0.5L) << "order " << order;
     }
   };
   run(FloatOrder{}, 0);
@@ -249,8 +217,7 @@ TEST_P(IirFilterTest, UnstableFiltersStaySaturated) {
       IIRState* state = nullptr;
       ASSERT_EQ(F::InitAlloc(&state, taps.data(), units, 0, nullptr), StatusOk);
       const auto y = Run<F>(state, std::vector<Orb16s>(3000, 100), {3000}, 0);
-      for (size_t i = 100; i < y.size(); ++i)
-        ASSERT_EQ(y[i], 32767) << F::kName << ", " << units << ", sample " << i;
+      for (size_t i = 100; i < y.size(); ++i) ASSERT_EQ(y[i], 32767) << units << ", sample " << i;
       F::Free(state);
     };
     run(FloatOrder{}, 2);
@@ -306,13 +273,15 @@ TEST_P(IirFilterTest, RoundsAndScales) {
       {1, -127, 1, 32767},    {1, -127, 0, 0},         {1, -2147483647 - 1, 9, 9},
   };
   for (const Row& row : rows) {
+    SCOPED_TRACE(testing::Message() << row.x << " times " << row.gain << ", scale factor "
+                                    << row.scaleFactor);
     const Orb32f taps[] = {row.gain, 0, 0, 1, 0, 0};
     IIRState* state = nullptr;
     ASSERT_EQ(FloatBiQuad::InitAlloc(&state, taps, 1, 0, nullptr), StatusOk);
     for (int count : {0, 1, 9, 40}) {
       const std::vector<Orb16s> x(40, row.x);
       const auto y = Run<FloatBiQuad>(state, x, {count}, row.scaleFactor);
-      for (size_t i = 0; i < y.size(); ++i) ASSERT_EQ(y[i], row.y) << &row - rows << ", calls of " << count;
+      for (Orb16s result : y) ASSERT_EQ(result, row.y) << "in calls of " << count;
     }
     FloatBiQuad::Free(state);
   }

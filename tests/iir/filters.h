@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "orbs90lgc.h"
+#include "tests/support/rows.h"
+#include "tests/support/samples.h"
 
 namespace orbs::test {
 
@@ -80,45 +82,20 @@ ORBS_TEST_IIR(FloatBiQuadC, 32sc_BiQuad_16sc32fc, ComplexIir, Orb32fc, true, )
 #undef ORBS_TEST_IIR
 
 template <class Test>
-void ForEachFloatIir(Test test) {
-  test(FloatOrder{});
-  test(FloatBiQuad{});
-  test(FloatOrderC{});
-  test(FloatBiQuadC{});
+void ForEachFloatIir(const Test& test) {
+  ForEachRow<FloatOrder, FloatBiQuad, FloatOrderC, FloatBiQuadC>(test);
 }
 template <class Test>
-void ForEachIir(Test test) {
+void ForEachIir(const Test& test) {
   ForEachFloatIir(test);
-  test(IntegerOrder{});
-  test(IntegerBiQuad{});
-  test(IntegerOrderC{});
-  test(IntegerBiQuadC{});
-}
-
-using Exact = std::complex<long double>;
-
-template <class T>
-Exact ToExact(T x) {
-  if constexpr (std::is_class_v<T>) {
-    return {static_cast<long double>(x.re), static_cast<long double>(x.im)};
-  } else {
-    return {static_cast<long double>(x), 0};
-  }
-}
-template <class T, class Part>
-T FromParts(Part re, Part im) {
-  if constexpr (std::is_class_v<T>) {
-    return {static_cast<decltype(T::re)>(re), static_cast<decltype(T::im)>(im)};
-  } else {
-    return static_cast<T>(re);
-  }
+  ForEachRow<IntegerOrder, IntegerBiQuad, IntegerOrderC, IntegerBiQuadC>(test);
 }
 
 // The formula, in extended precision, in the direct form I: no delay line like that of the filter under test.
 template <class F>
 class ExactFilter {
   // Real filters in real numbers: emulated, a complex product costs the time of a hundred.
-  using Number = std::conditional_t<std::is_class_v<typename F::Tap>, Exact, long double>;
+  using Number = std::conditional_t<kIsComplex<typename F::Tap>, Exact, long double>;
 
  public:
   ExactFilter(const std::vector<typename F::Tap>& taps, int units)
@@ -169,7 +146,7 @@ inline constexpr Orb32s kFractionalBits = 20;
 template <class F>
 std::vector<typename F::Tap> StableTaps(int units, uint32_t seed, double radius) {
   using C = std::complex<double>;
-  constexpr bool kComplex = std::is_class_v<typename F::Tap>;
+  constexpr bool kComplex = kIsComplex<typename F::Tap>;
   std::mt19937 engine(seed);
   std::uniform_real_distribution<double> uniform(-1, 1);
   const int order = F::kCascade ? 2 : units;
@@ -185,7 +162,7 @@ std::vector<typename F::Tap> StableTaps(int units, uint32_t seed, double radius)
     for (int k = 0; k < order; ++k) {
       const int pairs = order / 2;
       const double angle =
-          3.14159265358979 *
+          static_cast<double>(kPi) *
           (kComplex ? (2.0 * k + turn) / order : (k / 2 + 0.5 + 0.3 * turn) / (pairs > 0 ? pairs : 1));
       const C pole = std::polar(radius, angle);
       multiply(kComplex                           ? pole

@@ -1,10 +1,10 @@
 // States of IIR filters: sizes, statuses and their order, normalising, accessors, failed allocations.
-#include <limits>
-
 #include "tests/iir/filters.h"
 #include "tests/support/export_test.h"
 #include "tests/support/failing_allocator.h"
+#include "tests/support/filter_calls.h"
 #include "tests/support/random_data.h"
+#include "tests/support/state_sizes.h"
 
 namespace orbs::test {
 namespace {
@@ -25,30 +25,23 @@ class IirStateTest : public ExportTest {
 };
 ORBS_INSTANTIATE_VARIANTS(IirStateTest);
 
-// Callers allocate by these.
-TEST_P(IirStateTest, Sizes) {
-  const bool px = GetParam() == Variant::px;
-  const auto expect = [](auto filter, int units, int64_t bytes) {
-    Orb32s size = 0;
-    ASSERT_EQ(decltype(filter)::Size(units, &size), StatusOk);
-    EXPECT_EQ(size, bytes) << decltype(filter)::kName << ", " << units;
-  };
-  for (int64_t n = 1; n <= 40; ++n) {
-    const int units = static_cast<int>(n);
-    const int64_t order = ((4 * n + 19) & ~15) + ((8 * n + 19) & ~15) + (px ? 80 : 32 * n + 8376);
-    const int64_t orderC = ((8 * n + 39) & ~31) + ((16 * n + 39) & ~31) + (px ? 96 : 128 * n + 16848);
-    const int64_t biQuad = ((8 * n + 15) & ~15) + ((20 * n + 15) & ~15) + (px ? 80 : 160 * n + 8312);
-    const int64_t biQuadC = ((16 * n + 31) & ~31) + ((40 * n + 31) & ~31) + (px ? 128 : 1184 * n + 16512);
-    expect(FloatOrder{}, units, order);
-    expect(IntegerOrder{}, units, order);
-    expect(FloatOrderC{}, units, orderC);
-    expect(IntegerOrderC{}, units, orderC);
-    expect(FloatBiQuad{}, units, biQuad);
-    expect(IntegerBiQuad{}, units, biQuad);
-    expect(FloatBiQuadC{}, units, biQuadC);
-    expect(IntegerBiQuadC{}, units, biQuadC);
-  }
-  expect(FloatBiQuadC{}, std::numeric_limits<Orb32s>::max(), std::numeric_limits<Orb32s>::max());
+TEST_P(IirStateTest, SizesByVariant) {
+  ExpectSizes(
+      GetParam(),
+      {
+          {"order",
+           {legacy90orbsIIRGetStateSize32s_16s, legacy90orbsIIRGetStateSize32s_16s32f},
+           {{3, 128, 8520, 8520, 8520, 8520}, {24, 400, 9464, 9464, 9464, 9464}}},
+          {"complex order",
+           {legacy90orbsIIRGetStateSize32sc_16sc, legacy90orbsIIRGetStateSize32sc_16sc32fc},
+           {{8, 352, 18128, 18128, 18128, 18128}, {31, 864, 21584, 21584, 21584, 21584}}},
+          {"biquads",
+           {legacy90orbsIIRGetStateSize32s_BiQuad_16s, legacy90orbsIIRGetStateSize32s_BiQuad_16s32f},
+           {{1, 128, 8520, 8520, 8520, 8520}, {37, 1136, 15288, 15288, 15288, 15288}}},
+          {"complex biquads",
+           {legacy90orbsIIRGetStateSize32sc_BiQuad_16sc, legacy90orbsIIRGetStateSize32sc_BiQuad_16sc32fc},
+           {{1, 224, 17792, 17792, 17792, 17792}, {37, 2240, 62432, 62432, 62432, 62432}}},
+      });
 }
 
 TEST_P(IirStateTest, Statuses) {
@@ -72,36 +65,15 @@ TEST_P(IirStateTest, Statuses) {
     EXPECT_EQ(F::InitAlloc(nullptr, taps.data(), 0, 0, nullptr), StatusNullPointer);
     EXPECT_EQ(F::InitAlloc(&state, nullptr, 0, 0, nullptr), StatusNullPointer);
     EXPECT_EQ(F::InitAlloc(&state, taps.data(), -1, 0, nullptr), StatusIirOrder);
-    EXPECT_EQ(F::InitAlloc(&state, taps.data(), std::numeric_limits<Orb32s>::max(), 0, nullptr),
-              StatusMemAlloc);
+    EXPECT_EQ(F::InitAlloc(&state, taps.data(), kMost, 0, nullptr), StatusMemAlloc);
     EXPECT_EQ(state, nullptr);
 
     ASSERT_EQ(F::Init(&state, taps.data(), 2, 0, nullptr, block.data()), StatusOk);
-    EXPECT_EQ(F::Block(nullptr, data, 0, state, 0), StatusNullPointer);
-    EXPECT_EQ(F::Block(data, nullptr, 0, state, 0), StatusNullPointer);
-    EXPECT_EQ(F::Block(data, data + 1, 0, nullptr, 0), StatusNullPointer);
-    EXPECT_EQ(F::Block(data, data + 1, 0, state, 0), StatusSize);
-    EXPECT_EQ(F::InPlace(nullptr, 1, state, 0), StatusNullPointer);
-    EXPECT_EQ(F::One(data[0], nullptr, state, 0), StatusNullPointer);
-    EXPECT_EQ(F::One(data[0], data, nullptr, 0), StatusNullPointer);
+    ExpectCallStatuses<F>(state, words);
     EXPECT_EQ(F::SetTaps(static_cast<const typename F::Tap*>(nullptr), state, 0), StatusNullPointer);
     EXPECT_EQ(F::SetTaps(taps.data(), nullptr, 0), StatusNullPointer);
-    EXPECT_EQ(F::GetDelay(state, nullptr), StatusNullPointer);
-    EXPECT_EQ(F::GetDelay(nullptr, words), StatusNullPointer);
-    EXPECT_EQ(F::SetDelay(nullptr, words), StatusNullPointer);
-    EXPECT_EQ(F::Free(nullptr), StatusNullPointer);
-
     Orb32s foreign[64] = {0x46493039};
-    auto* other = reinterpret_cast<IIRState*>(foreign);
-    EXPECT_EQ(F::Block(data, data + 1, 0, other, 0), StatusSize);
-    EXPECT_EQ(F::InPlace(data, -1, other, 0), StatusSize);
-    EXPECT_EQ(F::Block(data, data + 1, 1, other, 0), StatusContextMismatch);
-    EXPECT_EQ(F::InPlace(data, 1, other, 0), StatusContextMismatch);
-    EXPECT_EQ(F::One(data[0], data, other, 0), StatusContextMismatch);
-    EXPECT_EQ(F::SetTaps(taps.data(), other, 0), StatusContextMismatch);
-    EXPECT_EQ(F::GetDelay(other, words), StatusContextMismatch);
-    EXPECT_EQ(F::SetDelay(other, nullptr), StatusContextMismatch);
-    EXPECT_EQ(F::Free(other), StatusContextMismatch);
+    EXPECT_EQ(F::SetTaps(taps.data(), reinterpret_cast<IIRState*>(foreign), 0), StatusContextMismatch);
 
     // A state in memory of the caller outlives its end.
     EXPECT_EQ(F::Free(state), StatusOk);
@@ -120,7 +92,7 @@ TEST_P(IirStateTest, DataTypesAreToldApart) {
       constexpr bool kSame = std::is_same_v<typename Guest::Data, typename Owner::Data>;
       typename Guest::Data y{};
       EXPECT_EQ(Guest::One({}, &y, state, 0), kSame ? StatusOk : StatusContextMismatch)
-          << Guest::kName << " on " << Owner::kName;
+          << "on a state of " << Owner::kName;
       // Taps of the state's own kind, which is not that of the guest.
       std::vector<typename Guest::Tap> taps(18, FromParts<typename Guest::Tap>(1, 0));
       EXPECT_EQ(Guest::SetTaps(taps.data(), state, 0), kSame ? StatusOk : StatusContextMismatch);
@@ -134,6 +106,7 @@ TEST_P(IirStateTest, IntegerTapsAndTheirFloatTwins) {
   const auto compare = [](auto integer, auto real) {
     using I = decltype(integer);
     using R = decltype(real);
+    SCOPED_TRACE(I::kName);
     for (Orb32s factor : {0, 15, -3, kFractionalBits, 1000, -1000}) {
       const auto taps = StableTaps<I>(3, 7, 0.8);
       std::vector<typename R::Tap> twins;
@@ -148,7 +121,7 @@ TEST_P(IirStateTest, IntegerTapsAndTheirFloatTwins) {
       IIRState* twin = nullptr;
       ASSERT_EQ(I::InitAlloc(&state, taps.data(), 3, factor, nullptr), StatusOk);
       ASSERT_EQ(R::InitAlloc(&twin, twins.data(), 3, 0, nullptr), StatusOk);
-      EXPECT_EQ(Response<I>(state, 20000), Response<R>(twin, 20000)) << I::kName << ", " << factor;
+      EXPECT_EQ(Response<I>(state, 20000), Response<R>(twin, 20000)) << "taps factor " << factor;
       // Set into a running filter of other taps, they make the same once more.
       ASSERT_EQ(R::SetTaps(StableTaps<R>(3, 8, 0.6).data(), state, 0), StatusOk);
       ASSERT_EQ(I::SetTaps(taps.data(), state, factor), StatusOk);
@@ -207,7 +180,7 @@ TEST_P(IirStateTest, ZeroLeadingCoefficients) {
     ASSERT_EQ(F::InitAlloc(&state, good.data(), 3, kFractionalBits, nullptr), StatusOk);
     ASSERT_EQ(F::InitAlloc(&twin, expected.data(), 3, kFractionalBits, nullptr), StatusOk);
     EXPECT_EQ(F::SetTaps(mixed.data(), state, kFractionalBits), StatusDivByZero);
-    EXPECT_EQ(Response<F>(state, 30000), Response<F>(twin, 30000)) << F::kName;
+    EXPECT_EQ(Response<F>(state, 30000), Response<F>(twin, 30000));
     std::vector<typename F::Data> x = RandomArray<typename F::Data>(200, 12);
     auto y = x;
     F::InPlace(x.data(), 200, state, 0);
@@ -276,27 +249,20 @@ TEST_P(IirStateTest, FailedAllocationsLeaveNothing) {
   ForEachIir([](auto filter) {
     using F = decltype(filter);
     const auto taps = StableTaps<F>(3, 16, 0.5);
-    for (int n = 0;; ++n) {
-      FailingAllocator heap(orbsSetAllocator, n);
+    FailEachAllocation(orbsSetAllocator, [&](FailingAllocator& heap) {
       IIRState* state = nullptr;
       OrbStatus status = F::InitAlloc(&state, taps.data(), 3, kFractionalBits, nullptr);
-      if (status == StatusOk) {
-        // Setting integer taps allocates, filtering never.
-        const bool failedBefore = heap.Failed();
-        status = F::SetTaps(taps.data(), state, kFractionalBits);
-        EXPECT_EQ(status, heap.Failed() && !failedBefore ? StatusMemAlloc : StatusOk);
-        const int before = heap.Count();
-        std::vector<typename F::Data> x(3000);
-        EXPECT_EQ(F::InPlace(x.data(), 3000, state, 0), StatusOk);
-        EXPECT_EQ(heap.Count(), before);
-        EXPECT_EQ(F::Free(state), StatusOk);
-      } else {
-        EXPECT_EQ(status, StatusMemAlloc);
-        EXPECT_EQ(state, nullptr);
-      }
-      EXPECT_EQ(heap.Alive(), 0);
-      if (!heap.Failed()) break;
-    }
+      EXPECT_EQ(state == nullptr, status != StatusOk);
+      if (status != StatusOk) return status;
+      // Setting integer taps allocates, filtering never.
+      status = F::SetTaps(taps.data(), state, kFractionalBits);
+      const int before = heap.Count();
+      std::vector<typename F::Data> x(3000);
+      EXPECT_EQ(F::InPlace(x.data(), 3000, state, 0), StatusOk);
+      EXPECT_EQ(heap.Count(), before);
+      EXPECT_EQ(F::Free(state), StatusOk);
+      return status;
+    });
     std::vector<unsigned char> block(40000);
     FailingAllocator heap(orbsSetAllocator, 0);
     IIRState* state = nullptr;

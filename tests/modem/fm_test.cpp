@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "tests/support/bad_calls.h"
 #include "tests/support/export_test.h"
 #include "tests/support/guarded_array.h"
 #include "tests/support/random_data.h"
@@ -11,13 +12,11 @@
 namespace orbs::test {
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
-
 // The phase step in units of the result, not rounded.
 double ExactStep(Orb16sc z, Orb16sc before) {
   const int64_t r = int64_t{before.re} * z.re + int64_t{before.im} * z.im;
   const int64_t i = int64_t{before.re} * z.im - int64_t{before.im} * z.re;
-  return std::atan2(static_cast<double>(i), static_cast<double>(r)) * 32768 / kPi;
+  return std::atan2(static_cast<double>(i), static_cast<double>(r)) * 32768 / static_cast<double>(kPi);
 }
 
 std::vector<Orb16s> Parts(const std::vector<Orb16sc>& z, Orb16s Orb16sc::*part) {
@@ -40,7 +39,7 @@ class FmTest : public ExportTest {
  protected:
   void ExpectSteps(const std::vector<Orb16s>& steps, const std::vector<Orb16sc>& z, Orb16sc before) const {
     // How far beside a tie a value may round to the other side.
-    const double slack = GetParam() == Variant::px ? 0.001 : 0.006;
+    const double slack = IsPx() ? 0.001 : 0.006;
     for (size_t n = 0; n < z.size(); ++n) {
       const double exact = std::min(32767.0, ExactStep(z[n], before));
       ASSERT_NEAR(steps[n], exact, 0.5 + slack)
@@ -131,39 +130,8 @@ TEST_P(FmTest, EveryLengthInOnePieceInTwoAndInPlace) {
   }
 }
 
-// A carrier whose frequency swings between -0.3 and 0.3 cycles a sample, and its amplitude too.
-TEST_P(FmTest, SweepComesBack) {
-  constexpr size_t kLength = 20000;
-  std::vector<Orb16sc> z(kLength);
-  std::vector<double> frequency(kLength);
-  double phase = 0;
-  for (size_t n = 0; n < kLength; ++n) {
-    frequency[n] = 0.3 * std::sin(2 * kPi * 1e-4 * static_cast<double>(n));
-    phase += 2 * kPi * frequency[n];
-    const double amplitude = 20000 + 10000 * std::cos(0.01 * static_cast<double>(n));
-    z[n] = {static_cast<Orb16s>(std::lrint(amplitude * std::cos(phase))),
-            static_cast<Orb16s>(std::lrint(amplitude * std::sin(phase)))};
-  }
-  const std::vector<Orb16s> steps = Demodulated(z);
-  // A sample is off by up to 0.71 units, at an amplitude of 10000 that is 0.74 units of phase; two make a
-  // step.
-  for (size_t n = 1; n < kLength; ++n) ASSERT_NEAR(steps[n], 65536 * frequency[n], 2) << n;
-}
-
 TEST_P(FmTest, BadArgumentsGiveTheirStatusAndWriteNothing) {
-  const GuardedArray<Orb16s> re(4);
-  const GuardedArray<Orb16s> im(4);
-  GuardedArray<Orb16s> steps(4);
-  GuardedArray<Orb16sc> delay(1);
-  const auto run = legacy90orbsDemodulateFM_CToR_16s;
-  EXPECT_EQ(run(nullptr, im.data(), steps.data(), 0, delay.data()), StatusNullPointer);
-  EXPECT_EQ(run(re.data(), nullptr, steps.data(), 0, delay.data()), StatusNullPointer);
-  EXPECT_EQ(run(re.data(), im.data(), nullptr, 0, delay.data()), StatusNullPointer);
-  EXPECT_EQ(run(re.data(), im.data(), steps.data(), 0, nullptr), StatusNullPointer);
-  EXPECT_EQ(run(re.data(), im.data(), steps.data(), 0, delay.data()), StatusSize);
-  EXPECT_EQ(run(re.data(), im.data(), steps.data(), -4, delay.data()), StatusSize);
-  EXPECT_TRUE(steps.Untouched());
-  EXPECT_TRUE(delay.Untouched());
+  CheckBadCalls(legacy90orbsDemodulateFM_CToR_16s);
 }
 
 }  // namespace

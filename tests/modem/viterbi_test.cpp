@@ -6,9 +6,12 @@
 #include <numeric>
 #include <vector>
 
+#include "tests/support/bad_calls.h"
 #include "tests/support/export_test.h"
 #include "tests/support/guarded_array.h"
+#include "tests/support/lengths.h"
 #include "tests/support/random_data.h"
+#include "tests/support/rows.h"
 
 namespace orbs::test {
 namespace {
@@ -231,10 +234,8 @@ TEST_P(SelectTest, FollowsTheDefinitionForAnyTables) {
 
 TEST_P(ViterbiTest, PathMetricsAreRelativeToTheFirstLeast) {
   std::mt19937 engine(2);
-  std::vector<size_t> counts(70);
-  std::iota(counts.begin(), counts.end(), 1);
-  counts.push_back(1000);
-  for (const size_t n : counts) {
+  for (const int count : Lengths(70, {1000})) {
+    const auto n = static_cast<size_t>(count);
     for (const unsigned range : {3u, 65535u, 65536u}) {
       GuardedArray<Orb16u> metrics(n, n % 3);
       GuardedArray<Orb16u> old(n, n % 2);
@@ -264,25 +265,11 @@ TEST_P(ViterbiTest, NullPointersAndCountsBelowOne) {
   GuardedArray<Orb8u> bytes(64);
   GuardedArray<Orb16u> metrics(64);
   GuardedArray<Orb16u> others(64);
-  for (int null = 0; null < 4; ++null) {
-    const auto unless = [&](int position, auto* p) { return null == position ? nullptr : p; };
-    EXPECT_EQ(legacy90orbsGetVarPointDV_16sc(unless(0, points.data()), unless(1, points.data()),
-                                             unless(2, words.data()), unless(3, bytes.data()), 16),
-              StatusNullPointer);
-    EXPECT_EQ(legacy90orbsUpdatePathMetricsDV_16u(unless(0, metrics.data()), unless(1, others.data()),
-                                                  unless(2, bytes.data()), unless(3, others.data()), 0),
-              StatusNullPointer);
-  }
-  EXPECT_EQ(legacy90orbsBuildSymblTableDV4D_16sc(nullptr, points.data(), 16, 0), StatusNullPointer);
-  EXPECT_EQ(legacy90orbsBuildSymblTableDV4D_16sc(words.data(), nullptr, 16, 0), StatusNullPointer);
-  for (int null = 0; null < 5; ++null) {
-    const auto unless = [&](int position, auto* p) { return null == position ? nullptr : p; };
-    EXPECT_EQ(legacy90orbsCalcStatesDV_16sc(unless(0, metrics.data()), unless(1, bytes.data()),
-                                            unless(2, others.data()), unless(3, points.data()),
-                                            unless(4, words.data()), 0, 0),
-              StatusNullPointer);
-  }
-  for (const Orb32s states : {0, -1, std::numeric_limits<Orb32s>::min()}) {
+  ForEachFunction([](auto* function) { CheckNullPointers(function); },
+                  ORBS_NAMED(legacy90orbsGetVarPointDV_16sc), ORBS_NAMED(legacy90orbsUpdatePathMetricsDV_16u),
+                  ORBS_NAMED(legacy90orbsBuildSymblTableDV4D_16sc),
+                  ORBS_NAMED(legacy90orbsCalcStatesDV_16sc));
+  for (const Orb32s states : {0, -1, kLeast}) {
     EXPECT_EQ(legacy90orbsCalcStatesDV_16sc(metrics.data(), bytes.data(), others.data(), points.data(),
                                             words.data(), states, 0),
               StatusOk);

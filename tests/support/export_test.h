@@ -14,6 +14,9 @@ class ExportTest : public testing::TestWithParam<Variant> {
     if (!CanRun(GetParam())) GTEST_SKIP() << "this processor cannot run " << VariantName(GetParam());
     orbsPinVariant(static_cast<int>(GetParam()));
   }
+
+  bool IsPx() const { return GetParam() == Variant::px; }
+  bool IsAvx() const { return GetParam() == Variant::g9 || GetParam() == Variant::h9; }
 };
 
 }  // namespace orbs::test

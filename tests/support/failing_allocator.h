@@ -1,16 +1,15 @@
 // Puts a heap behind the library that counts what is alive and fails at a chosen allocation.
 //
-//   for (int n = 0; ; ++n) {
-//     FailingAllocator heap(orbsSetAllocator, n);        // the n-th allocation from here fails
-//     const OrbStatus status = ...;
-//     EXPECT_EQ(heap.Alive(), ...);
-//     if (!heap.Failed()) break;         // the call needs no more than n allocations
-//     EXPECT_EQ(status, StatusMemAlloc);
-//   }
+//   FailEachAllocation(orbsSetAllocator, [&](FailingAllocator& heap) { return ...InitAlloc(...); });
 #ifndef ORBS_TESTS_SUPPORT_FAILING_ALLOCATOR_H
 #define ORBS_TESTS_SUPPORT_FAILING_ALLOCATOR_H
 
+#include <gtest/gtest.h>
+
 #include <cstdlib>
+
+#include "orbs90lgc/status.h"
+#include "orbs90lgc/types.h"
 
 namespace orbs::test {
 
@@ -55,6 +54,19 @@ class FailingAllocator {
   static inline int alive_;
   static inline bool failed_;
 };
+
+// Calls `call` with a heap that fails at the first allocation, then the second, and so on, until it needs no
+// more. It gives back the status; a failure must be told, and leave nothing behind.
+template <class Call>
+void FailEachAllocation(FailingAllocator::Setter setter, const Call& call) {
+  for (int n = 0;; ++n) {
+    FailingAllocator heap(setter, n);
+    const OrbStatus status = call(heap);
+    EXPECT_EQ(status, heap.Failed() ? StatusMemAlloc : StatusOk) << "failing at allocation " << n;
+    EXPECT_EQ(heap.Alive(), 0) << "failing at allocation " << n;
+    if (!heap.Failed()) return;
+  }
+}
 
 }  // namespace orbs::test
 

@@ -1,9 +1,7 @@
 // The answer of every row to bad arguments.
-#include <utility>
-
-#include "tests/support/guarded_array.h"
+#include "tests/support/bad_calls.h"
+#include "tests/support/rows.h"
 #include "tests/toolkit/toolkit_table.h"
-#include "tests/toolkit/values.h"
 
 namespace orbs::test {
 namespace {
@@ -11,51 +9,9 @@ namespace {
 class ToolkitArgumentsTest : public ToolkitTest {};
 ORBS_INSTANTIATE_VARIANTS(ToolkitArgumentsTest);
 
-// Calls a row with the pointer `nullAt` null, or with none, and a count. The count is the first integer
-// behind a pointer; what other scalars there are does not matter.
-template <class Status, class... Args, size_t... i>
-Status BadCall(Status (*function)(Args...), unsigned char* block, size_t nullAt, Orb32s n,
-               std::index_sequence<i...>) {
-  constexpr bool kIsPointer[] = {std::is_pointer_v<Args>...};
-  size_t countAt = 0;
-  while (!kIsPointer[countAt]) ++countAt;
-  while (kIsPointer[countAt]) ++countAt;
-  const auto argument = [&](auto* type, size_t k) {
-    using T = std::remove_pointer_t<decltype(type)>;
-    if constexpr (std::is_pointer_v<T>) {
-      return static_cast<T>(static_cast<void*>(k == nullAt ? nullptr : block + 64 * k));
-    } else {
-      return static_cast<T>(k == countAt ? n : 2);
-    }
-  };
-  return function(argument(static_cast<Args*>(nullptr), i)...);
-}
-
-template <class Status, class... Args>
-void CheckBadCalls(const char* row, Status (*function)(Args...)) {
-  SCOPED_TRACE(row);
-  constexpr bool kIsPointer[] = {std::is_pointer_v<Args>...};
-  GuardedArray<unsigned char> block(64 * sizeof...(Args));
-  const auto call = [&](size_t nullAt, Orb32s n) {
-    return BadCall(function, block.data(), nullAt, n, std::index_sequence_for<Args...>());
-  };
-  for (const Orb32s n : {0, -1, kLeast}) {
-    if constexpr (std::is_void_v<Status>) {
-      call(sizeof...(Args), n);
-    } else {
-      EXPECT_EQ(call(sizeof...(Args), n), StatusSize) << n;
-      for (size_t i = 0; i < sizeof...(Args); ++i) {
-        if (!kIsPointer[i]) continue;
-        EXPECT_EQ(call(i, 4), StatusNullPointer) << "argument " << i;
-        EXPECT_EQ(call(i, n), StatusNullPointer) << "argument " << i;
-      }
-    }
-  }
-  EXPECT_TRUE(block.Untouched());
-}
-
 TEST_P(ToolkitArgumentsTest, BadArgumentsGiveTheirStatusAndWriteNothing) {
-#define ORBS_CHECK(a, row) CheckBadCalls(#row, t.row);
+#define ORBS_CHECK(a, row) \
+  ForEachFunction([](auto* function) { CheckBadCalls(function); }, NamedFunction{#row, t.row});
   ORBS_STATUS_ROWS(ORBS_CHECK, )
   ORBS_COUNTED_VOID_ROWS(ORBS_CHECK, )
 #undef ORBS_CHECK

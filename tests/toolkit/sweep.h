@@ -55,21 +55,8 @@ std::string Text(const T& x) {
 }
 
 template <class T>
-struct PartOf {
-  using Type = T;
-};
-template <>
-struct PartOf<Orb32fc> {
-  using Type = Orb32f;
-};
-template <>
-struct PartOf<Orb64fc> {
-  using Type = Orb64f;
-};
-
-template <class T>
 std::vector<T> Data(size_t n, size_t seed, const SweepOptions& options) {
-  using Part = typename PartOf<T>::Type;
+  using Part = PartOf<T>;
   std::mt19937 engine(static_cast<uint32_t>(seed));
   const std::vector<Part> parts = RandomArray<Part>(n * sizeof(T) / sizeof(Part), engine(), options.scale);
   std::vector<T> values(n);

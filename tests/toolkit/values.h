@@ -8,14 +8,12 @@
 #include <limits>
 #include <vector>
 
-#include "orbs90lgc/types.h"
+#include "tests/support/samples.h"
 
 namespace orbs::test {
 
 using Wide = long double;  // holds every integer of 64 bits, and a product of two binary32
 
-constexpr Orb32s kLeast = std::numeric_limits<Orb32s>::min();
-constexpr Orb32s kMost = std::numeric_limits<Orb32s>::max();
 template <class T>
 inline constexpr T kInfinity = std::numeric_limits<T>::infinity();
 inline constexpr Wide kNan = std::numeric_limits<Wide>::quiet_NaN();

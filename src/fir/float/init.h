@@ -9,9 +9,6 @@
 
 namespace orbs::ORBS_VARIANT::fir {
 
-template <class Tap>
-inline constexpr uintptr_t kFirAlignment = sizeof(PartOf<Tap>) == 8 ? 32 : 16;
-
 template <class Kind>
 FirFftSizes SizeFirFftOf(Orb32s n) {
   return SizeFirFft<typename Kind::Tap>(n, FirTuning<typename Kind::Tap>::kFftFromTaps);
@@ -77,7 +74,7 @@ inline OrbStatus Init_32s(FIRFloatState** stateOut, const Orb32s* taps, Orb32s t
                           const Orb32s* delayLine, void* buffer) {
   if (AnyNull(stateOut, taps, buffer)) return StatusNullPointer;
   if (tapCount < 1) return StatusFirLength;
-  auto* state = reinterpret_cast<FIRFloatState*>(AlignUp(static_cast<unsigned char*>(buffer), 16));
+  auto* state = reinterpret_cast<FIRFloatState*>(AlignUp(static_cast<unsigned char*>(buffer), kFirAlignment_32s));
   *stateOut = state;
   Build<Fir64f_32s>(state, taps, tapCount, delayLine, FirFftSizes{});
   return StatusOk;

@@ -14,8 +14,7 @@ template <class Kind>
 OrbStatus GetIntStateSize(Orb32s tapCount, Orb32s* size) {
   ORBS_RETURN_IF_BAD(CheckResults(size));
   if (tapCount < 1) return StatusFirLength;
-  const int64_t bytes = FirIntStateBytes<Kind>(tapCount);
-  *size = bytes > INT32_MAX ? INT32_MAX : static_cast<Orb32s>(bytes);
+  *size = ReportedBytes(FirIntStateBytes<Kind>(tapCount));
   return StatusOk;
 }
 
@@ -26,7 +25,7 @@ OrbStatus InitWith(FIRIntState** stateOut, const Given* taps, Orb32s tapCount,
                    const typename Kind::Data* delayLine, void* buffer, Store store) {
   if (AnyNull(stateOut, taps, buffer)) return StatusNullPointer;
   if (tapCount < 1) return StatusFirLength;
-  auto* state = reinterpret_cast<FIRIntState*>(AlignUp(static_cast<unsigned char*>(buffer), 16));
+  auto* state = reinterpret_cast<FIRIntState*>(AlignUp(static_cast<unsigned char*>(buffer), kFirIntAlignment));
   *stateOut = state;
   store(BuildFirInt<Kind>(state, tapCount, delayLine));
   return StatusOk;

@@ -53,11 +53,11 @@ inline constexpr Orb32s kFirIntVector = 1;
 
 // Pairs of a row of taps16, with the padding.
 template <int kParts>
-ORBS_INLINE int64_t FirIntPairs(int64_t n) {
+ORBS_INLINE constexpr int64_t FirIntPairs(int64_t n) {
   return RoundUp(kParts == 1 ? (n + 1) / 2 : n, N32::kLanes);
 }
 template <int kParts>
-ORBS_INLINE int64_t FirTaps16Elements(int64_t n) {
+ORBS_INLINE constexpr int64_t FirTaps16Elements(int64_t n) {
   return 2 * kParts * FirIntPairs<kParts>(n);
 }
 

@@ -8,7 +8,7 @@
 
 #include "fir/integer/kernels.h"
 #include "fir/kinds.h"
-#include "fir/tuning.h"
+#include "fir/sizes.h"
 
 namespace orbs::ORBS_VARIANT::fir {
 
@@ -38,13 +38,11 @@ struct FirIntView {
 
 // ---- The block ----
 
-template <class Kind>
-int64_t FirIntStateBytes(Orb32s n) {
-  return Kind::kParts == 2 ? FirIntBytes_32sc(n) : FirIntBytes(n, sizeof(typename Kind::Tap));
-}
+// The record stands on a multiple of these bytes.
+inline constexpr uintptr_t kFirIntAlignment = 16;
 
 template <class Kind>
-FIRIntState DescribeFirInt(Orb32s n, BlockLayout* block) {
+constexpr FIRIntState DescribeFirInt(Orb32s n, BlockLayout* block) {
   using Data = typename Kind::Data;
   constexpr int kAlignment = 16;
   FIRIntState at{};

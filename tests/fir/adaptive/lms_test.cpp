@@ -5,24 +5,30 @@
 
 #include "tests/support/export_test.h"
 #include "tests/support/guarded_array.h"
+#include "tests/support/lengths.h"
 #include "tests/support/random_data.h"
+#include "tests/support/rows.h"
+#include "tests/support/samples.h"
 
 namespace orbs::test {
 namespace {
 
 struct Float {
+  static constexpr const char* kName = "Float";
   using Tap = Orb32f;
   using Sample = Orb32f;
   using Mu = Orb32f;
   static constexpr auto* Step = legacy90orbsFIRLMSOne_Direct_32f;
 };
 struct FloatOn16s {
+  static constexpr const char* kName = "FloatOn16s";
   using Tap = Orb32f;
   using Sample = Orb16s;
   using Mu = Orb32f;
   static constexpr auto* Step = legacy90orbsFIRLMSOne_Direct32f_16s;
 };
 struct Q15 {
+  static constexpr const char* kName = "Q15";
   using Tap = Orb32s;
   using Sample = Orb16s;
   using Mu = Orb32s;
@@ -30,10 +36,8 @@ struct Q15 {
 };
 
 template <class Test>
-void ForEachForm(Test test) {
-  test(Float{});
-  test(FloatOn16s{});
-  test(Q15{});
+void ForEachForm(const Test& test) {
+  ForEachRow<Float, FloatOn16s, Q15>(test);
 }
 
 // What belongs to the caller, in arrays that notice access outside themselves.
@@ -64,19 +68,8 @@ std::vector<Sample> NewestOf(const std::vector<Sample>& stream, size_t n) {
   return run;
 }
 
-std::vector<int> TapCounts() {
-  std::vector<int> counts;
-  for (int n = 1; n <= 40; ++n) counts.push_back(n);
-  for (int n : {63, 64, 65, 70, 100, 127, 128, 129, 200}) counts.push_back(n);
-  return counts;
-}
-
-long double Limited(long double y) { return std::fmin(32767.0L, std::fmax(-32768.0L, y)); }
-
 class LmsTest : public ExportTest {
  protected:
-  bool IsPx() const { return GetParam() == Variant::px; }
-
   // Output and taps of one step from the taps as they were. px computes beyond the precision of this test,
   // the others in binary32.
   template <class F>
@@ -93,8 +86,8 @@ class LmsTest : public ExportTest {
     const long double yError = unit * size * (4 + static_cast<long double>(x.size()) / 16);
     if constexpr (std::is_integral_v<typename F::Sample>) {
       const auto deliver = [this](long double v) { return IsPx() ? std::trunc(v) : std::nearbyint(v); };
-      EXPECT_GE(filter.output, deliver(Limited(y - yError)));
-      EXPECT_LE(filter.output, deliver(Limited(y + yError)));
+      EXPECT_GE(filter.output, deliver(LimitedTo16Bits(y - yError)));
+      EXPECT_LE(filter.output, deliver(LimitedTo16Bits(y + yError)));
     } else {
       EXPECT_NEAR(filter.output, y, yError + 1e-7L * std::fabs(y));
     }
@@ -120,7 +113,7 @@ class LmsTest : public ExportTest {
     }
     const double exact = static_cast<double>(sum) / 32768;
     const double rounded = std::nearbyint(exact);
-    EXPECT_EQ(filter.output, Limited(rounded));
+    EXPECT_EQ(filter.output, LimitedTo16Bits(rounded));
     for (size_t k = 0; k < x.size(); ++k) {
       if (energy == 0) {
         ASSERT_EQ(filter.taps[k], taps[k]);
@@ -172,7 +165,7 @@ class LmsTest : public ExportTest {
 ORBS_INSTANTIATE_VARIANTS(LmsTest);
 
 TEST_P(LmsTest, EveryTapCountStepByStep) {
-  for (int n : TapCounts()) {
+  for (int n : Lengths(40, {63, 64, 65, 70, 100, 127, 128, 129, 200})) {
     const auto count = static_cast<size_t>(n);
     const size_t steps = count + count / 2 + 5;
     CheckSteps<Float>(RandomArray<Orb32f>(count, 1), steps, 0.3f / static_cast<Orb32f>(n));
@@ -187,7 +180,7 @@ TEST_P(LmsTest, EveryTapCountStepByStep) {
 // Taps of 32 bits, whose products px cuts to 32 bits, and steps that drive them to the bounds.
 TEST_P(LmsTest, Q15AtTheBounds) {
   for (int n : {1, 3, 4, 7, 16, 50}) {
-    for (const Orb32s mu : {std::numeric_limits<Orb32s>::max(), std::numeric_limits<Orb32s>::min(), 0, 1}) {
+    for (const Orb32s mu : {kMost, kLeast, 0, 1}) {
       CheckSteps<Q15>(RandomArray<Orb32s>(static_cast<size_t>(n), 4), 60, mu);
       if (HasFatalFailure()) return;
     }
@@ -219,7 +212,7 @@ TEST_P(LmsTest, FindsAnUnknownFilter) {
     EXPECT_LT(lastError, 1e-3);
     for (size_t k = 0; k < n; ++k) {
       const double tap = static_cast<double>(filter.taps[k]) / (q15 ? 32768 : 1);
-      EXPECT_NEAR(tap, unknown[n - 1 - k], 1e-3) << "form of " << sizeof(typename F::Sample) << " bytes";
+      EXPECT_NEAR(tap, unknown[n - 1 - k], 1e-3);
     }
   });
 }
@@ -333,7 +326,7 @@ TEST_P(LmsTest, BadArgumentsChangeNothing) {
     expect(StatusSize, y, h, -5, x, i, 0);
     expect(StatusDelayIndex, y, h, 4, x, i, -1);
     expect(StatusDelayIndex, y, h, 4, x, i, 4);
-    expect(StatusDelayIndex, y, h, 4, x, i, std::numeric_limits<Orb32s>::min());
+    expect(StatusDelayIndex, y, h, 4, x, i, kLeast);
   });
 }
 

@@ -2,7 +2,6 @@
 // element, rounding, statuses.
 #include <sys/mman.h>
 
-#include <cstring>
 #include <limits>
 #include <vector>
 
@@ -11,18 +10,13 @@
 #include "tests/fir/integer/reference.h"
 #include "tests/support/export_test.h"
 #include "tests/support/failing_allocator.h"
-#include "tests/support/guarded_array.h"
+#include "tests/support/filter_calls.h"
 #include "tests/support/random_data.h"
 
 namespace orbs::test {
 namespace {
 
 constexpr Orb32s kTapsFactor = -15;
-
-template <class T>
-bool SameBytes(const T& a, const T& b) {
-  return std::memcmp(&a, &b, sizeof(T)) == 0;
-}
 
 // Integers over their whole range: a 32-bit tap has bits above 16 as well as below, all but the first of
 // them.
@@ -51,7 +45,7 @@ Orb32s ScaleFactorFor(int n) {
   if constexpr (F::kInteger) {
     return n % 5 == 4 ? kTapsFactor - 29 : n % 5;
   } else {
-    return std::is_integral_v<typename PartOf<typename F::Data>::Type> ? 1 : 0;
+    return std::is_integral_v<PartOf<typename F::Data>> ? 1 : 0;
   }
 }
 
@@ -81,9 +75,7 @@ class FirDirectTest : public ExportTest {
   template <class F>
   void CheckStream(int n, Orb32s start, const std::vector<int>& counts, Orb32s scaleFactor) {
     using Data = typename F::Data;
-    size_t total = 0;
-    for (int count : counts) total += static_cast<size_t>(count == 0 ? 1 : std::abs(count));
-    const std::vector<Data> x = DirectSamples<F>(total, 41);
+    const std::vector<Data> x = DirectSamples<F>(SamplesOf(counts), 41);
     const std::vector<Data> history = DirectSamples<F>(static_cast<size_t>(n), 42);
     const GuardedArray<typename F::Tap> taps(DirectTaps<F>(n, 43));
     Ring<Data> ring(history, start);
@@ -91,7 +83,7 @@ class FirDirectTest : public ExportTest {
     size_t done = 0;
     std::vector<Data> y;
     for (int count : counts) {
-      const auto size = static_cast<size_t>(count == 0 ? 1 : std::abs(count));
+      const size_t size = SamplesOf(count);
       const auto first = x.begin() + static_cast<ptrdiff_t>(done);
       const GuardedArray<Data> source(std::vector<Data>(first, first + static_cast<ptrdiff_t>(size)),
                                       done % 3);
@@ -119,10 +111,10 @@ class FirDirectTest : public ExportTest {
         y.push_back(result[i]);
       }
       done += size;
-      ASSERT_EQ(ring.index, model.index) << F::kName << ", " << n << " taps, after a call of " << count;
+      ASSERT_EQ(ring.index, model.index) << n << " taps, after a call of " << count;
       for (size_t i = 0; i < ring.line.size(); ++i) {
         ASSERT_TRUE(SameBytes(ring.line[i], model.line[i]))
-            << F::kName << ", " << n << " taps, after a call of " << count << ", delay line at " << i;
+            << n << " taps, after a call of " << count << ", delay line at " << i;
       }
     }
     CheckResults<F>(taps.values(), history, x, y, scaleFactor);
@@ -133,21 +125,15 @@ class FirDirectTest : public ExportTest {
                     const std::vector<Data>& x, const std::vector<Data>& y, Orb32s scaleFactor) {
     if constexpr (F::kInteger) {
       const auto expected = ExactOutputs(taps, history, x, kTapsFactor, scaleFactor);
-      for (size_t i = 0; i < y.size(); ++i) {
-        const Pair got = ToPair(y[i]);
-        ASSERT_TRUE(got.re == expected[i].re && (!kIsComplex<Data> || got.im == expected[i].im))
-            << F::kName << ", " << taps.size() << " taps, sample " << i << ": " << got.re << ", expected "
-            << expected[i].re;
-      }
+      for (size_t i = 0; i < y.size(); ++i)
+        ASSERT_EQ(ToExact(y[i]), expected[i]) << taps.size() << " taps, sample " << i;
     } else {
       const auto expected = ExactOutputs(taps, history, x);
       const long double divisor = std::ldexp(1.0L, scaleFactor);
-      const long double unscaled = Tolerance<F>(taps);
-      const long double allowed = scaleFactor == 0 ? unscaled : (unscaled - 0.5L) / divisor + 0.5L;
+      const long double allowed = ScaledTolerance<F>(taps, scaleFactor);
       for (size_t i = 0; i < y.size(); ++i) {
-        const Exact error = ToExact(y[i]) - expected[i] / divisor;
-        ASSERT_LE(std::max(std::abs(error.real()), std::abs(error.imag())), allowed)
-            << F::kName << ", " << taps.size() << " taps, sample " << i;
+        ASSERT_LE(PartDistance(ToExact(y[i]), expected[i] / divisor), allowed)
+            << taps.size() << " taps, sample " << i;
       }
     }
   }
@@ -163,8 +149,10 @@ TEST_P(FirDirectTest, EveryTapCount) {
     for (int n = 1; n <= 40; ++n) CheckStream<F>(n, n / 3, Calls(n), ScaleFactorFor<F>(n));
     for (int n : {63, 64, 65, 127, 255, 256}) CheckStream<F>(n, n - 1, Calls(n), ScaleFactorFor<F>(n));
   });
-  for (int n = 1; n <= 70; ++n)
-    CheckStream<Direct16s>(n, n / 2, {0, 0, 0, 2 * n + 3, -5}, ScaleFactorFor<Direct16s>(n));
+  ForEachRow<Direct16s>([&](auto) {
+    for (int n = 1; n <= 70; ++n)
+      CheckStream<Direct16s>(n, n / 2, {0, 0, 0, 2 * n + 3, -5}, ScaleFactorFor<Direct16s>(n));
+  });
 }
 
 // Taps that do not fit on the stack at once; the ring wraps within calls and between them.
@@ -200,24 +188,22 @@ class ZeroArray {
 // in each variant and 24 GiB of address space: to be run by hand when a walk over taps has changed.
 TEST_P(FirDirectTest, DISABLED_MostTapsThereCanBe) {
   if (sizeof(void*) < 8) GTEST_SKIP() << "needs 64-bit addresses";
-  constexpr Orb32s kTaps = std::numeric_limits<Orb32s>::max();
   const auto check = [](auto filter) {
     using F = decltype(filter);
-    ZeroArray<typename F::Tap> taps(static_cast<size_t>(kTaps));
-    ZeroArray<Orb16s> line(2 * static_cast<size_t>(kTaps));
+    ZeroArray<typename F::Tap> taps(static_cast<size_t>(kMost));
+    ZeroArray<Orb16s> line(2 * static_cast<size_t>(kMost));
     if (taps.data() == nullptr || line.data() == nullptr) GTEST_SKIP() << "no room";
     taps.data()[0] = 3;
     Orb32s index = 0;
     Orb16s y[9] = {7};
-    ASSERT_EQ(F::OneInPlace(y, taps.data(), kTaps, 0, line.data(), &index, 0), StatusOk);
-    EXPECT_EQ(y[0], 21) << F::kName;
+    ASSERT_EQ(F::OneInPlace(y, taps.data(), kMost, 0, line.data(), &index, 0), StatusOk);
+    EXPECT_EQ(y[0], 21);
     const std::vector<Orb16s> x = {1, 2, 3, 4, 5, 6, 7, 8, 9};
-    ASSERT_EQ(F::Block(x.data(), y, 9, taps.data(), kTaps, 0, line.data(), &index, 0), StatusOk);
-    for (size_t i = 0; i < x.size(); ++i) EXPECT_EQ(y[i], 3 * x[i]) << F::kName;
+    ASSERT_EQ(F::Block(x.data(), y, 9, taps.data(), kMost, 0, line.data(), &index, 0), StatusOk);
+    for (size_t i = 0; i < x.size(); ++i) EXPECT_EQ(y[i], 3 * x[i]);
     EXPECT_EQ(index, 10);
   };
-  check(Direct32s{});
-  check(Direct64f_16s{});
+  ForEachRow<Direct32s, Direct64f_16s>(check);
 }
 
 // A delay line filled by hand, with halves that differ, all over or in one sample: a block is still what its
@@ -288,9 +274,9 @@ double OneTap(double tap, double sample, Orb32s scaleFactor) {
   F::Block(many.data(), &y[43], 40, &h, 1, 0, line, &index, scaleFactor);
   EXPECT_EQ(index, 0);
   for (const auto& result : y) {
-    EXPECT_TRUE(SameBytes(result, y[0])) << F::kName;
+    EXPECT_TRUE(SameBytes(result, y[0]));
     if constexpr (kIsComplex<typename F::Data>) {
-      EXPECT_EQ(result.im, result.re) << F::kName;
+      EXPECT_EQ(result.im, result.re);
     }
   }
   return static_cast<double>(ToExact(y[0]).real());
@@ -298,25 +284,26 @@ double OneTap(double tap, double sample, Orb32s scaleFactor) {
 
 template <class F>
 void CheckHalfAway(double bound) {
-  EXPECT_EQ(OneTap<F>(0.5, 5, 0), 3) << F::kName;
-  EXPECT_EQ(OneTap<F>(-0.5, 5, 0), -3) << F::kName;
-  EXPECT_EQ(OneTap<F>(1, 1, 1), 1) << F::kName;
-  EXPECT_EQ(OneTap<F>(0.49, -1, 0), 0) << F::kName;
-  EXPECT_EQ(OneTap<F>(1, 5, -3), 40) << F::kName;
-  EXPECT_EQ(OneTap<F>(1e30, 5, 0), bound) << F::kName;
-  EXPECT_EQ(OneTap<F>(-1e30, 5, 0), -bound - 1) << F::kName;
+  EXPECT_EQ(OneTap<F>(0.5, 5, 0), 3);
+  EXPECT_EQ(OneTap<F>(-0.5, 5, 0), -3);
+  EXPECT_EQ(OneTap<F>(1, 1, 1), 1);
+  EXPECT_EQ(OneTap<F>(0.49, -1, 0), 0);
+  EXPECT_EQ(OneTap<F>(1, 5, -3), 40);
+  EXPECT_EQ(OneTap<F>(1e30, 5, 0), bound);
+  EXPECT_EQ(OneTap<F>(-1e30, 5, 0), -bound - 1);
   // The magnitude of the factor counts modulo 128; 127 empties the exponent field.
-  EXPECT_EQ(OneTap<F>(64, 5, 128 + 5), 10) << F::kName;
-  EXPECT_EQ(OneTap<F>(1, 5, -129), 10) << F::kName;
-  EXPECT_EQ(OneTap<F>(1e30, 5, 127), 0) << F::kName;
-  EXPECT_EQ(OneTap<F>(1, 5, std::numeric_limits<Orb32s>::min()), 5) << F::kName;
-  EXPECT_EQ(OneTap<F>(NAN, 5, 0), -bound - 1) << F::kName;
+  EXPECT_EQ(OneTap<F>(64, 5, 128 + 5), 10);
+  EXPECT_EQ(OneTap<F>(1, 5, -129), 10);
+  EXPECT_EQ(OneTap<F>(1e30, 5, 127), 0);
+  EXPECT_EQ(OneTap<F>(1, 5, kLeast), 5);
+  EXPECT_EQ(OneTap<F>(NAN, 5, 0), -bound - 1);
 }
 
 TEST_P(FirDirectTest, FloatingPointSumsBecomeIntegers) {
-  CheckHalfAway<Direct32f_16s>(32767);
-  CheckHalfAway<Direct64f_16s>(32767);
-  CheckHalfAway<Direct64f_32s>(2147483647);
+  ForEachRow<Direct32f_16s, Direct64f_16s, Direct64f_32s>([](auto filter) {
+    using F = decltype(filter);
+    CheckHalfAway<F>(std::numeric_limits<typename F::Data>::max());
+  });
   EXPECT_EQ(OneTap<Direct64f_32s>(0.5, 2147483647, 0), 1073741824);
   // Complex: each component.
   EXPECT_EQ(OneTap<Direct32fc_16sc>(-0.5, 5, 0), -3);
@@ -333,16 +320,14 @@ TEST_P(FirDirectTest, ResultsBeyondBinary32AreInfinite) {
 }
 
 TEST_P(FirDirectTest, IntegerSumsAreShifted) {
-  constexpr Orb32s kLow = std::numeric_limits<Orb32s>::min();
-  constexpr Orb32s kHigh = std::numeric_limits<Orb32s>::max();
   const struct {
     Orb32s tap, sample, tapsFactor, scaleFactor, expected;
-  } rows[] = {{1, 3, 7, 7, 3},        {1, 3, 0, 1, 2},          {1, 5, 0, 1, 2},
-              {1, -3, 0, 1, -2},      {20000, 2, 0, 0, 32767},  {1 << 30, 2, 0, 0, -32768},
-              {1 << 30, 4, 0, 0, 0},  {1, 16384, 16, 0, 32767}, {1, 3, 40, 0, -32768},
-              {1, 2, 40, 0, 0},       {kHigh, 1, 0, 100, -1},   {5, 3, kHigh, kLow, -32768},
-              {5, 3, kLow, kHigh, 0}, {65536 * 3, 3, 0, 16, 9}, {-65537, 2, 0, 16, -2},
-              {kLow, 1, 0, 31, -1},   {kHigh, 3, 0, 0, 32767},  {3 << 15, 1, 0, 16, 2}};
+  } rows[] = {{1, 3, 7, 7, 3},          {1, 3, 0, 1, 2},          {1, 5, 0, 1, 2},
+              {1, -3, 0, 1, -2},        {20000, 2, 0, 0, 32767},  {1 << 30, 2, 0, 0, -32768},
+              {1 << 30, 4, 0, 0, 0},    {1, 16384, 16, 0, 32767}, {1, 3, 40, 0, -32768},
+              {1, 2, 40, 0, 0},         {kMost, 1, 0, 100, -1},   {5, 3, kMost, kLeast, -32768},
+              {5, 3, kLeast, kMost, 0}, {65536 * 3, 3, 0, 16, 9}, {-65537, 2, 0, 16, -2},
+              {kLeast, 1, 0, 31, -1},   {kMost, 3, 0, 0, 32767},  {3 << 15, 1, 0, 16, 2}};
   for (const auto& row : rows) {
     for (int count : {1, 40}) {
       const std::vector<Orb16s> x(40, static_cast<Orb16s>(row.sample));
@@ -390,10 +375,10 @@ TEST_P(FirDirectTest, BlocksWithQ15Taps) {
                   StatusOk);
         ASSERT_TRUE(y.GuardsIntact() && line.GuardsIntact());
         const auto expected = ExactOutputs(taps, history, x, -15, 2);
-        for (size_t i = 0; i < x.size(); ++i) ASSERT_EQ(y[i], expected[i].re) << n << " taps, sample " << i;
+        for (size_t i = 0; i < x.size(); ++i)
+          ASSERT_EQ(y[i], expected[i].real()) << n << " taps, sample " << i;
         EXPECT_EQ(index, 0);
-        for (size_t j = 0; j < size; ++j)
-          ASSERT_EQ(line[j], j < x.size() ? x[x.size() - 1 - j] : history[j - x.size()]) << j;
+        ASSERT_NO_FATAL_FAILURE(ExpectNewestFirst(line.data(), history, x)) << n << " taps";
       }
     }
   }
@@ -453,13 +438,13 @@ TEST_P(FirDirectTest, Statuses) {
     Orb32s index = 1;
     const auto check = [&](OrbStatus block, OrbStatus one, const Data* src, Data* dst, Orb32s count,
                            const typename F::Tap* h, Orb32s n, Data* line, Orb32s* i) {
-      EXPECT_EQ(F::Block(src, dst, count, h, n, 0, line, i, 0), block) << F::kName;
+      EXPECT_EQ(F::Block(src, dst, count, h, n, 0, line, i, 0), block);
       if (src != nullptr) {
-        EXPECT_EQ(F::InPlace(dst, count, h, n, 0, line, i, 0), block) << F::kName;
+        EXPECT_EQ(F::InPlace(dst, count, h, n, 0, line, i, 0), block);
       }
       if (one == StatusOk) return;
-      EXPECT_EQ(F::One(zero, dst, h, n, 0, line, i, 0), one) << F::kName;
-      EXPECT_EQ(F::OneInPlace(dst, h, n, 0, line, i, 0), one) << F::kName;
+      EXPECT_EQ(F::One(zero, dst, h, n, 0, line, i, 0), one);
+      EXPECT_EQ(F::OneInPlace(dst, h, n, 0, line, i, 0), one);
     };
     // Each fault in front of all that are tested after it.
     Data* const line = lineData.data();
@@ -471,8 +456,7 @@ TEST_P(FirDirectTest, Statuses) {
     check(StatusNullPointer, StatusNullPointer, &zero, y.data(), 1, taps, 1, nullptr, &index);
     check(StatusNullPointer, StatusNullPointer, &zero, y.data(), 1, taps, 1, line, nullptr);
     EXPECT_EQ(index, 1);
-    for (size_t i = 0; i < 2; ++i)
-      EXPECT_TRUE(SameBytes(y[i], before[i]) && SameBytes(line[i], before[i])) << F::kName;
+    for (size_t i = 0; i < 2; ++i) EXPECT_TRUE(SameBytes(y[i], before[i]) && SameBytes(line[i], before[i]));
   });
 }
 

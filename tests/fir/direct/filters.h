@@ -5,6 +5,7 @@
 #include <type_traits>
 
 #include "orbs90lgc.h"
+#include "tests/support/rows.h"
 
 namespace orbs::test {
 
@@ -94,27 +95,11 @@ struct Direct16s {
   }
 };
 
-// Calls test(Filter{}) for each, without and with integer taps.
 template <class Test>
-void ForEachFloatDirect(Test test) {
-  test(Direct32f{});
-  test(Direct32fc{});
-  test(Direct64f{});
-  test(Direct64fc{});
-  test(Direct64f_32f{});
-  test(Direct64fc_32fc{});
-  test(Direct32f_16s{});
-  test(Direct32fc_16sc{});
-  test(Direct64f_16s{});
-  test(Direct64fc_16sc{});
-  test(Direct64f_32s{});
-  test(Direct64fc_32sc{});
-}
-template <class Test>
-void ForEachDirect(Test test) {
-  ForEachFloatDirect(test);
-  test(Direct32s{});
-  test(Direct32sc{});
+void ForEachDirect(const Test& test) {
+  ForEachRow<Direct32f, Direct32fc, Direct64f, Direct64fc, Direct64f_32f, Direct64fc_32fc, Direct32f_16s,
+             Direct32fc_16sc, Direct64f_16s, Direct64fc_16sc, Direct64f_32s, Direct64fc_32sc, Direct32s,
+             Direct32sc>(test);
 }
 
 }  // namespace orbs::test

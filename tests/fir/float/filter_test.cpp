@@ -2,60 +2,39 @@
 #include "tests/fir/float/filters.h"
 #include "tests/support/effort.h"
 #include "tests/support/export_test.h"
-#include "tests/support/guarded_array.h"
+#include "tests/support/filter_calls.h"
+#include "tests/support/lengths.h"
 
 namespace orbs::test {
 namespace {
 
 class FirTest : public ExportTest {
  protected:
-  // A stream filtered in the calls that `counts` tells: 0 is a one-sample call, a negative count a block in
-  // place, a positive one a block between guarded arrays. Each call's results are held against the exact
-  // ones.
+  // A stream filtered in these calls, each result held against the exact one.
   template <class F>
   void CheckStream(FIRFloatState* state, const std::vector<typename F::Tap>& taps,
-                   const std::vector<typename F::Data>& history, const std::vector<int>& counts,
+                   const std::vector<typename F::Data>& history, const std::vector<int>& calls,
                    unsigned seed) {
     using Data = typename F::Data;
-    size_t total = 0;
-    for (int count : counts) total += static_cast<size_t>(count == 0 ? 1 : std::abs(count));
-    const std::vector<Data> x = RandomNumbers<Data>(total, DataScale<Data>(), seed);
+    const std::vector<Data> x = RandomNumbers<Data>(SamplesOf(calls), DataScale<Data>(), seed);
     const std::vector<Exact> expected = ExactOutputs(taps, history, x);
-    const bool integers = std::is_integral_v<typename PartOf<Data>::Type>;
-    const Orb32s factor = std::is_integral_v<typename F::Tap> ? 3 + BitsOf(taps.size()) : integers ? 1 : 0;
+    const Orb32s factor = std::is_integral_v<typename F::Tap> ? 3 + BitsOf(taps.size())
+                          : std::is_integral_v<PartOf<Data>>  ? 1
+                                                              : 0;
     const long double divisor = std::ldexp(1.0L, factor);
-    const long double tolerance = (Tolerance<F>(taps) - 0.5L) / divisor + 0.5L;
-    const long double allowed = factor == 0 ? Tolerance<F>(taps) : tolerance;
-    size_t done = 0;
-    for (int count : counts) {
-      const auto size = static_cast<size_t>(count == 0 ? 1 : std::abs(count));
-      const std::vector<Data> piece(x.begin() + static_cast<ptrdiff_t>(done),
-                                    x.begin() + static_cast<ptrdiff_t>(done + size));
-      const GuardedArray<Data> source(piece, done % 3);
-      GuardedArray<Data> result(size, done % 2);
-      OrbStatus status;
-      if (count == 0) {
-        status = F::One(source[0], result.data(), state, factor);
-      } else if (count > 0) {
-        status = F::Block(source.data(), result.data(), count, state, factor);
-      } else {
-        std::copy(piece.begin(), piece.end(), result.data());
-        status = F::InPlace(result.data(), -count, state, factor);
-      }
-      ASSERT_EQ(status, StatusOk);
-      ASSERT_TRUE(result.GuardsIntact());
-      for (size_t i = 0; i < size; ++i) {
-        const Exact error = ToExact(result[i]) - expected[done + i] / divisor;
-        // Single samples of binary32 are added up in more than that, and rounded once.
-        const bool once = std::is_same_v<F, Filter32f> && count == 0;
-        const long double rounded = std::abs(expected[done + i]) * 0x1p-24L + 1e-13L;
-        ASSERT_LE(std::max(std::abs(error.real()), std::abs(error.imag())), once ? rounded : allowed)
-            << F::kName << ", " << taps.size() << " taps, sample " << i << " of a call of " << count
-            << " after " << done;
-      }
-      done += size;
+    const long double allowed = ScaledTolerance<F>(taps, factor);
+    const auto [y, callOf] = RunCalls<F>(state, x, calls, factor);
+    for (size_t i = 0; i < y.size(); ++i) {
+      // Single samples of binary32 are added up in more than that, and rounded once.
+      const bool once = std::is_same_v<F, Filter32f> && callOf[i] == 0;
+      const long double roundedOnce = std::abs(expected[i]) * 0x1p-24L + 1e-13L;
+      ASSERT_LE(PartDistance(ToExact(y[i]), expected[i] / divisor), once ? roundedOnce : allowed)
+          << taps.size() << " taps, sample " << i << ", in a call of " << callOf[i];
     }
-    ExpectDelay<F>(state, history, x, taps.size());
+    GuardedArray<Data> delay(taps.size());
+    ASSERT_EQ(F::GetDelay(state, delay.data()), StatusOk);
+    ASSERT_TRUE(delay.GuardsIntact());
+    ASSERT_NO_FATAL_FAILURE(ExpectNewestFirst(delay.data(), history, x)) << taps.size() << " taps";
   }
 
   static int BitsOf(size_t n) {
@@ -63,34 +42,14 @@ class FirTest : public ExportTest {
     while (n >> bits) ++bits;
     return bits;
   }
-
-  // The delay line holds the last n samples, the newest first.
-  template <class F>
-  void ExpectDelay(const FIRFloatState* state, const std::vector<typename F::Data>& history,
-                   const std::vector<typename F::Data>& x, size_t n) {
-    GuardedArray<typename F::Data> delay(n);
-    ASSERT_EQ(F::GetDelay(state, delay.data()), StatusOk);
-    ASSERT_TRUE(delay.GuardsIntact());
-    for (size_t j = 0; j < n; ++j) {
-      const auto expected = j < x.size() ? x[x.size() - 1 - j] : history[j - x.size()];
-      ASSERT_EQ(ToExact(delay[j]), ToExact(expected)) << F::kName << ", " << n << " taps, element " << j;
-    }
-  }
 };
 ORBS_INSTANTIATE_VARIANTS(FirTest);
-
-std::vector<int> TapCounts() {
-  std::vector<int> counts;
-  for (int n = 1; n <= 70; ++n) counts.push_back(n);
-  for (int n : {99, 100, 101, 127, 128, 129, 255}) counts.push_back(n);
-  return counts;
-}
 
 // In exactly the bytes reported, at addresses of every alignment.
 TEST_P(FirTest, EveryTapCountInMemoryOfTheCaller) {
   ForEachFilter([&](auto filter) {
     using F = decltype(filter);
-    for (int n : TapCounts()) {
+    for (int n : Lengths(70, {99, 100, 101, 127, 128, 129, 255})) {
       Orb32s size = 0;
       ASSERT_EQ(F::Size(n, &size), StatusOk);
       GuardedArray<unsigned char> block(static_cast<size_t>(size), static_cast<size_t>(n % 33));
@@ -102,7 +61,7 @@ TEST_P(FirTest, EveryTapCountInMemoryOfTheCaller) {
       // Around the room of the delay line, and short ones in any mixture.
       CheckStream<F>(state, taps, history,
                      {1, 0, n, 0, 0, n + 1, -3, n + 4, n + 5, 7, n + 21, -(n + 9), 2, 0, 40}, 3u);
-      ASSERT_TRUE(block.GuardsIntact()) << F::kName << ", " << n << " taps";
+      ASSERT_TRUE(block.GuardsIntact()) << n << " taps";
       EXPECT_EQ(F::Free(state), StatusOk);
       auto again = taps;
       ASSERT_EQ(F::GetTaps(state, again.data()), StatusOk);  // free left it alone
@@ -233,18 +192,16 @@ std::vector<double> Scaled(const std::vector<double>& taps, double sample, Orb32
 
 TEST_P(FirTest, TiesSaturationAndScaleFactors) {
   using Values = std::vector<double>;
-  const bool px = GetParam() == Variant::px;
-  const bool avx = GetParam() == Variant::g9 || GetParam() == Variant::h9;
-  const double one = px ? 3 : 2;
+  // 2.5 where ties go away from zero in px alone.
+  const double one = IsPx() ? 3 : 2;
   EXPECT_EQ(Scaled<Filter32f_16s>({0.5}, 5, 0), (Values{one, 2, 2}));
   EXPECT_EQ(Scaled<Filter32fc_16sc>({0.5}, 5, 0), (Values{one, 2, 2}));
   EXPECT_EQ(Scaled<Filter64f_16s>({0.5}, 5, 0), (Values{one, one, one}));
   EXPECT_EQ(Scaled<Filter64f_32s>({0.5}, 5, 0), (Values{one, 2, 2}));
   EXPECT_EQ(Scaled<Filter32s>({1}, 5, 1), (Values{one, 2, 2}));
   // Short complex filters of two kinds send ties away from zero in the AVX variants as well.
-  const double shortOne = px || avx ? -3 : -2;
-  EXPECT_EQ(Scaled<Filter64fc_16sc>({0.5, 0, 0, 0}, -5, 0),
-            (Values{shortOne, px ? -3. : -2., px ? -3. : -2.}));
+  const double shortOne = IsPx() || IsAvx() ? -3 : -2;
+  EXPECT_EQ(Scaled<Filter64fc_16sc>({0.5, 0, 0, 0}, -5, 0), (Values{shortOne, -one, -one}));
   EXPECT_EQ(Scaled<Filter64fc_32sc>({0.5, 0, 0, 0}, -5, 0), (Values{shortOne, -2, -2}));
   EXPECT_EQ(Scaled<Filter64fc_16sc>({0.5, 0, 0, 0, 0}, -5, 0)[0], -one);
 

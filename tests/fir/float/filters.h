@@ -3,138 +3,68 @@
 #ifndef ORBS_TESTS_FIR_FLOAT_FILTERS_H
 #define ORBS_TESTS_FIR_FLOAT_FILTERS_H
 
-#include <algorithm>
-#include <cmath>
-#include <complex>
 #include <limits>
 #include <random>
-#include <string>
+#include <type_traits>
 #include <vector>
 
 #include "orbs90lgc.h"
+#include "tests/fir/state_functions.h"
+#include "tests/support/rows.h"
+#include "tests/support/samples.h"
 
 namespace orbs::test {
 
-#define ORBS_TEST_FIR(name, suffix, TapType, DataType, plain, inPlace, scale, scaleArgument)               \
-  struct name {                                                                                            \
-    using Tap = TapType;                                                                                   \
-    using Data = DataType;                                                                                 \
-    static constexpr const char* kName = #suffix;                                                          \
-    static OrbStatus Size(Orb32s n, Orb32s* size) { return legacy90orbsFIRGetStateSize##suffix(n, size); } \
-    static OrbStatus Init(FIRFloatState** s, const Tap* t, Orb32s n, const Data* d, void* b) {             \
-      return legacy90orbsFIRInit##suffix(s, t, n, d, b);                                                   \
-    }                                                                                                      \
-    static OrbStatus InitAlloc(FIRFloatState** s, const Tap* t, Orb32s n, const Data* d) {                 \
-      return legacy90orbsFIRInitAlloc##suffix(s, t, n, d);                                                 \
-    }                                                                                                      \
-    static OrbStatus Free(FIRFloatState* s) { return legacy90orbsFIRFree##suffix(s); }                     \
-    static OrbStatus GetTaps(const FIRFloatState* s, Tap* t) {                                             \
-      return legacy90orbsFIRGetTaps##suffix(s, t);                                                         \
-    }                                                                                                      \
-    static OrbStatus SetTaps(const Tap* t, FIRFloatState* s) {                                             \
-      return legacy90orbsFIRSetTaps##suffix(t, s);                                                         \
-    }                                                                                                      \
-    static OrbStatus Block(const Data* x, Data* y, Orb32s n, FIRFloatState* s,                             \
-                           [[maybe_unused]] Orb32s factor) {                                               \
-      return legacy90orbsFIR##suffix##plain(x, y, n, s scaleArgument);                                     \
-    }                                                                                                      \
-    static OrbStatus InPlace(Data* x, Orb32s n, FIRFloatState* s, [[maybe_unused]] Orb32s factor) {        \
-      return legacy90orbsFIR##suffix##inPlace(x, n, s scaleArgument);                                      \
-    }                                                                                                      \
-    static OrbStatus One(Data x, Data* y, FIRFloatState* s, [[maybe_unused]] Orb32s factor) {              \
-      return legacy90orbsFIROne##suffix##scale(x, y, s scaleArgument);                                     \
-    }                                                                                                      \
-    static OrbStatus GetDelay(const FIRFloatState* s, Data* d);                                            \
-    static OrbStatus SetDelay(FIRFloatState* s, const Data* d);                                            \
-  };
-#define ORBS_TEST_FIR_DELAY(name, suffix)                            \
-  inline OrbStatus name::GetDelay(const FIRFloatState* s, Data* d) { \
-    return legacy90orbsFIRGetDlyLine##suffix(s, d);                  \
-  }                                                                  \
-  inline OrbStatus name::SetDelay(FIRFloatState* s, const Data* d) { \
-    return legacy90orbsFIRSetDlyLine##suffix(s, d);                  \
+// Functions whose results are integers take a scale factor, others ignore it.
+template <class Function, class... Args>
+OrbStatus CallScaled(Function* function, [[maybe_unused]] Orb32s factor, Args... args) {
+  if constexpr (std::is_invocable_v<Function*, Args..., Orb32s>) {
+    return function(args..., factor);
+  } else {
+    return function(args...);
   }
-#define ORBS_TEST_COMMA_FACTOR , factor
-ORBS_TEST_FIR(Filter32f, _32f, Orb32f, Orb32f, , _I, , )
-ORBS_TEST_FIR(Filter32fc, _32fc, Orb32fc, Orb32fc, , _I, , )
-ORBS_TEST_FIR(Filter64f, _64f, Orb64f, Orb64f, , _I, , )
-ORBS_TEST_FIR(Filter64fc, _64fc, Orb64fc, Orb64fc, , _I, , )
-ORBS_TEST_FIR(Filter64f_32f, 64f_32f, Orb64f, Orb32f, , _I, , )
-ORBS_TEST_FIR(Filter64fc_32fc, 64fc_32fc, Orb64fc, Orb32fc, , _I, , )
-ORBS_TEST_FIR(Filter32f_16s, 32f_16s, Orb32f, Orb16s, _Sfs, _ISfs, _Sfs, ORBS_TEST_COMMA_FACTOR)
-ORBS_TEST_FIR(Filter32fc_16sc, 32fc_16sc, Orb32fc, Orb16sc, _Sfs, _ISfs, _Sfs, ORBS_TEST_COMMA_FACTOR)
-ORBS_TEST_FIR(Filter64f_16s, 64f_16s, Orb64f, Orb16s, _Sfs, _ISfs, _Sfs, ORBS_TEST_COMMA_FACTOR)
-ORBS_TEST_FIR(Filter64fc_16sc, 64fc_16sc, Orb64fc, Orb16sc, _Sfs, _ISfs, _Sfs, ORBS_TEST_COMMA_FACTOR)
-ORBS_TEST_FIR(Filter64f_32s, 64f_32s, Orb64f, Orb32s, _Sfs, _ISfs, _Sfs, ORBS_TEST_COMMA_FACTOR)
-ORBS_TEST_FIR(Filter64fc_32sc, 64fc_32sc, Orb64fc, Orb32sc, _Sfs, _ISfs, _Sfs, ORBS_TEST_COMMA_FACTOR)
-ORBS_TEST_FIR(Filter32s, _32s, Orb32s, Orb32s, _Sfs, _ISfs, _Sfs, ORBS_TEST_COMMA_FACTOR)
-ORBS_TEST_FIR_DELAY(Filter32f, _32f)
-ORBS_TEST_FIR_DELAY(Filter32fc, _32fc)
-ORBS_TEST_FIR_DELAY(Filter64f, _64f)
-ORBS_TEST_FIR_DELAY(Filter64fc, _64fc)
-ORBS_TEST_FIR_DELAY(Filter64f_32f, 64f_32f)
-ORBS_TEST_FIR_DELAY(Filter64fc_32fc, 64fc_32fc)
-ORBS_TEST_FIR_DELAY(Filter32f_16s, 32f_16s)
-ORBS_TEST_FIR_DELAY(Filter32fc_16sc, 32fc_16sc)
-ORBS_TEST_FIR_DELAY(Filter64f_16s, 64f_16s)
-ORBS_TEST_FIR_DELAY(Filter64fc_16sc, 64fc_16sc)
-ORBS_TEST_FIR_DELAY(Filter64f_32s, 64f_32s)
-ORBS_TEST_FIR_DELAY(Filter64fc_32sc, 64fc_32sc)
-ORBS_TEST_FIR_DELAY(Filter32s, 64f_32s)  // the same kind of state
-#undef ORBS_TEST_FIR_DELAY
-#undef ORBS_TEST_COMMA_FACTOR
+}
+
+// `scaled` and `inPlace` are how the names of the filter functions end; `delay` is the kind that the
+// functions for delay lines are named after.
+#define ORBS_TEST_FIR(name, suffix, delay, TapType, DataType, scaled, inPlace)                  \
+  struct name {                                                                                 \
+    ORBS_TEST_FIR_STATE(suffix, delay, TapType, DataType)                                       \
+    static OrbStatus Block(const Data* x, Data* y, Orb32s n, FIRFloatState* s, Orb32s factor) { \
+      return CallScaled(legacy90orbsFIR##suffix##scaled, factor, x, y, n, s);                   \
+    }                                                                                           \
+    static OrbStatus InPlace(Data* x, Orb32s n, FIRFloatState* s, Orb32s factor) {              \
+      return CallScaled(legacy90orbsFIR##suffix##inPlace, factor, x, n, s);                     \
+    }                                                                                           \
+    static OrbStatus One(Data x, Data* y, FIRFloatState* s, Orb32s factor) {                    \
+      return CallScaled(legacy90orbsFIROne##suffix##scaled, factor, x, y, s);                   \
+    }                                                                                           \
+  };
+#define ORBS_TEST_FIR_PLAIN(name, suffix, Tap, Data) ORBS_TEST_FIR(name, suffix, suffix, Tap, Data, , _I)
+#define ORBS_TEST_FIR_SCALED(name, suffix, Tap, Data) \
+  ORBS_TEST_FIR(name, suffix, suffix, Tap, Data, _Sfs, _ISfs)
+ORBS_TEST_FIR_PLAIN(Filter32f, _32f, Orb32f, Orb32f)
+ORBS_TEST_FIR_PLAIN(Filter32fc, _32fc, Orb32fc, Orb32fc)
+ORBS_TEST_FIR_PLAIN(Filter64f, _64f, Orb64f, Orb64f)
+ORBS_TEST_FIR_PLAIN(Filter64fc, _64fc, Orb64fc, Orb64fc)
+ORBS_TEST_FIR_PLAIN(Filter64f_32f, 64f_32f, Orb64f, Orb32f)
+ORBS_TEST_FIR_PLAIN(Filter64fc_32fc, 64fc_32fc, Orb64fc, Orb32fc)
+ORBS_TEST_FIR_SCALED(Filter32f_16s, 32f_16s, Orb32f, Orb16s)
+ORBS_TEST_FIR_SCALED(Filter32fc_16sc, 32fc_16sc, Orb32fc, Orb16sc)
+ORBS_TEST_FIR_SCALED(Filter64f_16s, 64f_16s, Orb64f, Orb16s)
+ORBS_TEST_FIR_SCALED(Filter64fc_16sc, 64fc_16sc, Orb64fc, Orb16sc)
+ORBS_TEST_FIR_SCALED(Filter64f_32s, 64f_32s, Orb64f, Orb32s)
+ORBS_TEST_FIR_SCALED(Filter64fc_32sc, 64fc_32sc, Orb64fc, Orb32sc)
+ORBS_TEST_FIR(Filter32s, _32s, 64f_32s, Orb32s, Orb32s, _Sfs, _ISfs)  // a state of the kind of 64f_32s
+#undef ORBS_TEST_FIR_SCALED
+#undef ORBS_TEST_FIR_PLAIN
 #undef ORBS_TEST_FIR
 
-// Calls test(Filter{}) for each.
 template <class Test>
-void ForEachFilter(Test test) {
-  test(Filter32f{});
-  test(Filter32fc{});
-  test(Filter64f{});
-  test(Filter64fc{});
-  test(Filter64f_32f{});
-  test(Filter64fc_32fc{});
-  test(Filter32f_16s{});
-  test(Filter32fc_16sc{});
-  test(Filter64f_16s{});
-  test(Filter64fc_16sc{});
-  test(Filter64f_32s{});
-  test(Filter64fc_32sc{});
-  test(Filter32s{});
-}
-
-// ---- Numbers of any of the types ----
-
-using Exact = std::complex<long double>;
-
-template <class T>
-inline constexpr bool kIsComplex = std::is_class_v<T>;
-template <class T, bool = kIsComplex<T>>
-struct PartOf {
-  using Type = T;
-};
-template <class T>
-struct PartOf<T, true> {
-  using Type = decltype(T::re);
-};
-
-template <class T>
-Exact ToExact(T x) {
-  if constexpr (kIsComplex<T>) {
-    return {static_cast<long double>(x.re), static_cast<long double>(x.im)};
-  } else {
-    return {static_cast<long double>(x), 0};
-  }
-}
-
-template <class T>
-T FromExact(Exact x) {
-  using Part = typename PartOf<T>::Type;
-  if constexpr (kIsComplex<T>) {
-    return {static_cast<Part>(x.real()), static_cast<Part>(x.imag())};
-  } else {
-    return static_cast<Part>(x.real());
-  }
+void ForEachFilter(const Test& test) {
+  ForEachRow<Filter32f, Filter32fc, Filter64f, Filter64fc, Filter64f_32f, Filter64fc_32fc, Filter32f_16s,
+             Filter32fc_16sc, Filter64f_16s, Filter64fc_16sc, Filter64f_32s, Filter64fc_32sc, Filter32s>(
+      test);
 }
 
 template <class T>
@@ -152,7 +82,7 @@ std::vector<T> RandomNumbers(size_t count, double scale, unsigned seed) {
 // Half of what the data type holds; floats about 1.
 template <class Data>
 double DataScale() {
-  using Part = typename PartOf<Data>::Type;
+  using Part = PartOf<Data>;
   return std::is_integral_v<Part> ? static_cast<double>(std::numeric_limits<Part>::max()) / 2 : 1;
 }
 
@@ -199,8 +129,8 @@ std::vector<Exact> ExactOutputs(const std::vector<Tap>& taps, const std::vector<
 // sum, and half a unit of integer results.
 template <class F>
 long double Tolerance(const std::vector<typename F::Tap>& taps) {
-  using TapPart = typename PartOf<typename F::Tap>::Type;
-  using DataPart = typename PartOf<typename F::Data>::Type;
+  using TapPart = PartOf<typename F::Tap>;
+  using DataPart = PartOf<typename F::Data>;
   long double magnitudes = 0;
   for (const auto& tap : taps) magnitudes += std::abs(ToExact(tap).real()) + std::abs(ToExact(tap).imag());
   const long double largest =
@@ -211,6 +141,13 @@ long double Tolerance(const std::vector<typename F::Tap>& taps) {
   if (std::is_integral_v<DataPart>) tolerance += 0.5L;
   if (std::is_same_v<DataPart, Orb32f>) tolerance += largest * std::numeric_limits<Orb32f>::epsilon() / 2;
   return tolerance;
+}
+
+// The same of results that are divided by 2^factor: all but the half unit shrinks.
+template <class F>
+long double ScaledTolerance(const std::vector<typename F::Tap>& taps, Orb32s factor) {
+  const long double tolerance = Tolerance<F>(taps);
+  return factor == 0 ? tolerance : (tolerance - 0.5L) / std::ldexp(1.0L, factor) + 0.5L;
 }
 
 }  // namespace orbs::test

@@ -1,33 +1,25 @@
 // FIR filters with integer taps: bit for bit against the formula, in every variant.
-#include <limits>
 #include <random>
 #include <vector>
 
 #include "tests/fir/integer/reference.h"
+#include "tests/fir/state_functions.h"
 #include "tests/support/export_test.h"
 #include "tests/support/failing_allocator.h"
-#include "tests/support/guarded_array.h"
+#include "tests/support/filter_calls.h"
 #include "tests/support/random_data.h"
+#include "tests/support/rows.h"
+#include "tests/support/state_sizes.h"
 
 namespace orbs::test {
 namespace {
 
-#define ORBS_TEST_FIR(name, suffix, TapType, DataType)                   \
-  struct name {                                                          \
-    using Tap = TapType;                                                 \
-    using Data = DataType;                                               \
-    static constexpr const char* kName = #suffix;                        \
-    static constexpr auto* Size = legacy90orbsFIRGetStateSize##suffix;   \
-    static constexpr auto* Init = legacy90orbsFIRInit##suffix;           \
-    static constexpr auto* InitAlloc = legacy90orbsFIRInitAlloc##suffix; \
-    static constexpr auto* Free = legacy90orbsFIRFree##suffix;           \
-    static constexpr auto* GetTaps = legacy90orbsFIRGetTaps##suffix;     \
-    static constexpr auto* SetTaps = legacy90orbsFIRSetTaps##suffix;     \
-    static constexpr auto* GetDelay = legacy90orbsFIRGetDlyLine##suffix; \
-    static constexpr auto* SetDelay = legacy90orbsFIRSetDlyLine##suffix; \
-    static constexpr auto* Block = legacy90orbsFIR##suffix##_Sfs;        \
-    static constexpr auto* InPlace = legacy90orbsFIR##suffix##_ISfs;     \
-    static constexpr auto* One = legacy90orbsFIROne##suffix##_Sfs;       \
+#define ORBS_TEST_FIR(name, suffix, TapType, DataType)               \
+  struct name {                                                      \
+    ORBS_TEST_FIR_STATE(suffix, suffix, TapType, DataType)           \
+    static constexpr auto* Block = legacy90orbsFIR##suffix##_Sfs;    \
+    static constexpr auto* InPlace = legacy90orbsFIR##suffix##_ISfs; \
+    static constexpr auto* One = legacy90orbsFIROne##suffix##_Sfs;   \
   };
 ORBS_TEST_FIR(Filter16s, _16s, Orb16s, Orb16s)
 ORBS_TEST_FIR(Filter32s, 32s_16s, Orb32s, Orb16s)
@@ -35,10 +27,8 @@ ORBS_TEST_FIR(Filter32sc, 32sc_16sc, Orb32sc, Orb16sc)
 #undef ORBS_TEST_FIR
 
 template <class Test>
-void ForEachFilter(Test test) {
-  test(Filter16s{});
-  test(Filter32s{});
-  test(Filter32sc{});
+void ForEachFilter(const Test& test) {
+  ForEachRow<Filter16s, Filter32s, Filter32sc>(test);
 }
 
 // Within the range of stored taps, whole: no shift is applied to them.
@@ -48,59 +38,29 @@ std::vector<typename F::Tap> StoredTaps(int n, uint32_t seed) {
   std::uniform_int_distribution<int> uniform(-32766, 32766);
   std::vector<typename F::Tap> taps(static_cast<size_t>(n));
   for (auto& tap : taps) {
-    if constexpr (std::is_class_v<typename F::Tap>) {
-      tap = {uniform(engine), uniform(engine)};
-    } else {
-      tap = static_cast<typename F::Tap>(uniform(engine));
-    }
+    const int re = uniform(engine);
+    tap = FromParts<typename F::Tap>(re, kIsComplex<typename F::Tap> ? uniform(engine) : 0);
   }
   return taps;
 }
 
 class FirIntegerTest : public ExportTest {
  protected:
-  // 0 is a one-sample call, a negative count a block in place.
   template <class F>
   void CheckStream(FIRIntState* state, const std::vector<typename F::Tap>& taps,
-                   const std::vector<typename F::Data>& history, const std::vector<int>& counts,
+                   const std::vector<typename F::Data>& history, const std::vector<int>& calls,
                    Orb32s tapsFactor, Orb32s scaleFactor) {
     using Data = typename F::Data;
-    size_t total = 0;
-    for (int count : counts) total += static_cast<size_t>(count == 0 ? 1 : std::abs(count));
-    const std::vector<Data> x = RandomArray<Data>(total, 31);
-    const std::vector<Pair> expected = ExactOutputs(taps, history, x, tapsFactor, scaleFactor);
-    size_t done = 0;
-    for (int count : counts) {
-      const auto size = static_cast<size_t>(count == 0 ? 1 : std::abs(count));
-      const std::vector<Data> piece(x.begin() + static_cast<ptrdiff_t>(done),
-                                    x.begin() + static_cast<ptrdiff_t>(done + size));
-      const GuardedArray<Data> source(piece, done % 3);
-      GuardedArray<Data> result(size, done % 2);
-      if (count == 0) {
-        ASSERT_EQ(F::One(source[0], result.data(), state, scaleFactor), StatusOk);
-      } else if (count > 0) {
-        ASSERT_EQ(F::Block(source.data(), result.data(), count, state, scaleFactor), StatusOk);
-      } else {
-        std::copy(piece.begin(), piece.end(), result.data());
-        ASSERT_EQ(F::InPlace(result.data(), -count, state, scaleFactor), StatusOk);
-      }
-      ASSERT_TRUE(result.GuardsIntact());
-      for (size_t i = 0; i < size; ++i) {
-        const Pair y = ToPair(result[i]);
-        ASSERT_TRUE(y.re == expected[done + i].re &&
-                    (y.im == expected[done + i].im || !std::is_class_v<Data>))
-            << F::kName << ", " << taps.size() << " taps, sample " << i << " of a call of " << count
-            << " after " << done << ": " << y.re << ", expected " << expected[done + i].re;
-      }
-      done += size;
+    const std::vector<Data> x = RandomArray<Data>(SamplesOf(calls), 31);
+    const std::vector<Exact> expected = ExactOutputs(taps, history, x, tapsFactor, scaleFactor);
+    const auto [y, callOf] = RunCalls<F>(state, x, calls, scaleFactor);
+    for (size_t i = 0; i < y.size(); ++i) {
+      ASSERT_EQ(ToExact(y[i]), expected[i])
+          << taps.size() << " taps, sample " << i << ", in a call of " << callOf[i];
     }
     std::vector<Data> delay(taps.size());
     ASSERT_EQ(F::GetDelay(state, delay.data()), StatusOk);
-    for (size_t j = 0; j < delay.size(); ++j) {
-      const Data recent = j < x.size() ? x[x.size() - 1 - j] : history[j - x.size()];
-      ASSERT_EQ(ToPair(delay[j]).re, ToPair(recent).re) << j;
-      ASSERT_EQ(ToPair(delay[j]).im, ToPair(recent).im) << j;
-    }
+    ASSERT_NO_FATAL_FAILURE(ExpectNewestFirst(delay.data(), history, x)) << taps.size() << " taps";
   }
 };
 ORBS_INSTANTIATE_VARIANTS(FirIntegerTest);
@@ -120,7 +80,7 @@ TEST_P(FirIntegerTest, EveryTapCountInMemoryOfTheCaller) {
       CheckStream<F>(state, taps, history,
                      {1, 0, n, 0, 0, n + 1, -3, n + 4, n + 33, 7, n + 90, -(n + 9), 2, 0, 1500, 0}, -15,
                      n % 5 == 4 ? -44 : n % 5);
-      ASSERT_TRUE(block.GuardsIntact()) << F::kName << ", " << n << " taps";
+      ASSERT_TRUE(block.GuardsIntact()) << n << " taps";
       EXPECT_EQ(F::Free(state), StatusOk);
     }
   });
@@ -188,10 +148,8 @@ TEST_P(FirIntegerTest, ScalingAtTiesAndExtremes) {
   EXPECT_EQ(OneSample(1, 0, 100, {32767, -32768}), (Values{0, 0}));
   EXPECT_EQ(OneSample(16384, 1, 0, {32767, -32768}), (Values{32767, -32768}));
   EXPECT_EQ(OneSample(16384, 16, 0, {1, 2, 3}), (Values{32767, -32768, -32768}));  // bits fall away
-  EXPECT_EQ(OneSample(5, std::numeric_limits<Orb32s>::max(), std::numeric_limits<Orb32s>::min(), {2, 1}),
-            (Values{0, -32768}));
-  EXPECT_EQ(OneSample(5, std::numeric_limits<Orb32s>::min(), std::numeric_limits<Orb32s>::max(), {2}),
-            (Values{0}));
+  EXPECT_EQ(OneSample(5, kMost, kLeast, {2, 1}), (Values{0, -32768}));
+  EXPECT_EQ(OneSample(5, kLeast, kMost, {2}), (Values{0}));
 }
 
 TEST_P(FirIntegerTest, TapsAreShiftedTo16Bits) {
@@ -218,7 +176,7 @@ TEST_P(FirIntegerTest, TapsAreShiftedTo16Bits) {
               {{32767, -3}, {16383, -2}, 1},
               {{-32767, -3}, {-16384, -2}, 1},
               {{1000000, -1}, {31250, -1}, 5},
-              {{std::numeric_limits<Orb32s>::max(), 7}, {32767 >> 1, 0}, 17}};
+              {{kMost, 7}, {32767 >> 1, 0}, 17}};
   for (const auto& row : rows) {
     Orb32s got[2];
     ASSERT_EQ(legacy90orbsFIRInitAlloc32s_16s(&state, row.taps, 2, -3, nullptr), StatusOk);
@@ -301,7 +259,7 @@ TEST_P(FirIntegerTest, FiltersWithQuantisedTaps) {
     using F = typename Q::Base;
     using Data = typename F::Data;
     constexpr int kTaps = 22;
-    constexpr int kParts = std::is_class_v<Data> ? 2 : 1;
+    constexpr int kParts = kIsComplex<Data> ? 2 : 1;
     const auto history = RandomArray<Data>(kTaps, 71);
     Orb32s size = 0;
     ASSERT_EQ(F::Size(kTaps, &size), StatusOk);
@@ -349,53 +307,45 @@ TEST_P(FirIntegerTest, Statuses) {
     EXPECT_EQ(F::InitAlloc(nullptr, taps, 0, 0, nullptr), StatusNullPointer);
     EXPECT_EQ(F::InitAlloc(&state, taps, 0, 0, nullptr), StatusFirLength);
     EXPECT_EQ(state, nullptr);
-    {
-      FailingAllocator heap(orbsSetAllocator, 0);
-      EXPECT_EQ(F::InitAlloc(&state, taps, 2, 0, nullptr), StatusMemAlloc);
-      EXPECT_EQ(heap.Alive(), 0);
-    }
+    FailEachAllocation(orbsSetAllocator, [&](FailingAllocator&) {
+      FIRIntState* made = nullptr;
+      const OrbStatus status = F::InitAlloc(&made, taps, 2, 0, nullptr);
+      if (status == StatusOk) F::Free(made);
+      return status;
+    });
     ASSERT_EQ(F::Init(&state, taps, 2, 0, nullptr, block.data()), StatusOk);
-    EXPECT_EQ(F::Block(nullptr, data, 0, state, 0), StatusNullPointer);
-    EXPECT_EQ(F::InPlace(data, 0, nullptr, 0), StatusNullPointer);
-    EXPECT_EQ(F::One(data[0], nullptr, state, 0), StatusNullPointer);
+    ExpectCallStatuses<F>(state, data);
     EXPECT_EQ(F::GetTaps(state, got, nullptr), StatusNullPointer);
     EXPECT_EQ(F::GetTaps(state, nullptr, &number), StatusNullPointer);
     EXPECT_EQ(F::SetTaps(nullptr, state, 0), StatusNullPointer);
-    EXPECT_EQ(F::GetDelay(state, nullptr), StatusNullPointer);
-    EXPECT_EQ(F::SetDelay(nullptr, data), StatusNullPointer);
-    EXPECT_EQ(F::Free(nullptr), StatusNullPointer);
-
     Orb32s foreign[16] = {0x46493031};
     auto* other = reinterpret_cast<FIRIntState*>(foreign);
-    EXPECT_EQ(F::Block(data, data + 1, 0, other, 0), StatusSize);
-    EXPECT_EQ(F::Block(data, data + 1, 1, other, 0), StatusContextMismatch);
-    EXPECT_EQ(F::InPlace(data, 1, other, 0), StatusContextMismatch);
-    EXPECT_EQ(F::One(data[0], data, other, 0), StatusContextMismatch);
     EXPECT_EQ(F::GetTaps(other, got, &number), StatusContextMismatch);
     EXPECT_EQ(F::SetTaps(taps, other, 0), StatusContextMismatch);
-    EXPECT_EQ(F::GetDelay(other, data), StatusContextMismatch);
-    EXPECT_EQ(F::SetDelay(other, data), StatusContextMismatch);
-    EXPECT_EQ(F::Free(other), StatusContextMismatch);
   });
 }
 
 TEST_P(FirIntegerTest, SizesByVariant) {
-  const bool px = GetParam() == Variant::px;
-  const bool avx = GetParam() == Variant::g9 || GetParam() == Variant::h9;
-  const auto sizes = [](auto query) {  // the sum of those of 1 to 40 taps
-    Orb32s bytes = 0;
-    EXPECT_EQ(query(std::numeric_limits<Orb32s>::max(), &bytes), StatusOk);
-    EXPECT_EQ(bytes, std::numeric_limits<Orb32s>::max());
-    Orb32s sum = 0;
-    for (Orb32s n = 1; n <= 40; ++n, sum += bytes) EXPECT_EQ(query(n, &bytes), StatusOk);
-    return sum;
-  };
-  const Orb32s more = avx ? 40 * 512 : 0;
-  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize_16s), px ? 673360 : 676160 + more);
-  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32s_16s), px ? 674960 : 677760 + more);
-  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32s_16s32f), px ? 674960 : 677760 + more);
-  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32sc_16sc), px ? 676640 : 689760 + more);
-  EXPECT_EQ(sizes(legacy90orbsFIRGetStateSize32sc_16sc32fc), px ? 676640 : 689760 + more);
+  ExpectSizes(GetParam(),
+              {
+                  {"16s",
+                   {legacy90orbsFIRGetStateSize_16s},
+                   {{5, 16592, 16688, 16688, 16688, 17200},
+                    {7, 16624, 16704, 16704, 16704, 17216},
+                    {20, 16816, 16864, 16864, 16864, 17376},
+                    {26, 16928, 16976, 16976, 16976, 17488}}},
+                  {"32s",
+                   {legacy90orbsFIRGetStateSize32s_16s, legacy90orbsFIRGetStateSize32s_16s32f},
+                   {{5, 16608, 16704, 16704, 16704, 17216},
+                    {7, 16640, 16720, 16720, 16720, 17232},
+                    {20, 16848, 16896, 16896, 16896, 17408},
+                    {26, 16976, 17024, 17024, 17024, 17536}}},
+                  {"32sc",
+                   {legacy90orbsFIRGetStateSize32sc_16sc, legacy90orbsFIRGetStateSize32sc_16sc32fc},
+                   {{1, 16528, 16544, 16544, 16544, 17056},
+                    {3, 16576, 16624, 16624, 16624, 17136},
+                    {16, 16816, 17072, 17072, 17072, 17584}}},
+              });
 }
 
 }  // namespace

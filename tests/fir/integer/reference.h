@@ -4,23 +4,12 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <type_traits>
+#include <iterator>
 #include <vector>
 
-namespace orbs::test {
+#include "tests/support/samples.h"
 
-struct Pair {
-  int64_t re;
-  int64_t im;
-};
-template <class T>
-Pair ToPair(T x) {
-  if constexpr (std::is_class_v<T>) {
-    return {x.re, x.im};
-  } else {
-    return {x, 0};
-  }
-}
+namespace orbs::test {
 
 // 32 bits of a sum, times 2^d, rounded with ties to even by counting halves, saturated.
 inline int64_t Delivered(int64_t sum, int64_t tapsFactor, int64_t scaleFactor) {
@@ -39,22 +28,33 @@ inline int64_t Delivered(int64_t sum, int64_t tapsFactor, int64_t scaleFactor) {
 
 // `history` holds the samples before `x`, the newest first.
 template <class Tap, class Data>
-std::vector<Pair> ExactOutputs(const std::vector<Tap>& taps, const std::vector<Data>& history,
-                               const std::vector<Data>& x, int64_t tapsFactor, int64_t scaleFactor) {
+std::vector<Exact> ExactOutputs(const std::vector<Tap>& taps, const std::vector<Data>& history,
+                                const std::vector<Data>& x, int64_t tapsFactor, int64_t scaleFactor) {
+  struct Pair {
+    int64_t re, im;
+  };
+  const auto pairOf = [](auto value) {
+    const Exact exact = ToExact(value);
+    return Pair{static_cast<int64_t>(exact.real()), static_cast<int64_t>(exact.imag())};
+  };
   std::vector<Pair> all;
-  for (size_t i = history.size(); i-- > 0;) all.push_back(ToPair(history[i]));
-  for (const Data& sample : x) all.push_back(ToPair(sample));
-  std::vector<Pair> y(x.size());
+  std::vector<Pair> h;
+  std::transform(history.rbegin(), history.rend(), std::back_inserter(all), pairOf);
+  std::transform(x.begin(), x.end(), std::back_inserter(all), pairOf);
+  std::transform(taps.begin(), taps.end(), std::back_inserter(h), pairOf);
+  std::vector<Exact> y(x.size());
   for (size_t i = 0; i < x.size(); ++i) {
     int64_t re = 0;
     int64_t im = 0;
-    for (size_t k = 0; k < taps.size() && k <= history.size() + i; ++k) {
-      const Pair h = ToPair(taps[k]);
+    for (size_t k = 0; k < h.size() && k <= history.size() + i; ++k) {
       const Pair s = all[history.size() + i - k];
-      re += h.re * s.re - h.im * s.im;
-      im += h.re * s.im + h.im * s.re;
+      re += h[k].re * s.re - h[k].im * s.im;
+      im += h[k].re * s.im + h[k].im * s.re;
     }
-    y[i] = {Delivered(re, tapsFactor, scaleFactor), Delivered(im, tapsFactor, scaleFactor)};
+    const auto delivered = [=](int64_t sum) {
+      return static_cast<long double>(Delivered(sum, tapsFactor, scaleFactor));
+    };
+    y[i] = {delivered(re), delivered(im)};
   }
   return y;
 }

@@ -54,16 +54,7 @@ void CheckFlags(const FftAccess& fft, FftKind kind) {
     const size_t n = size_t{1} << order;
     const Signal<T> x = RandomSignal<T>(n, 3);
     const TestPlan plain(fft, kind, order);
-    const auto byN = static_cast<long double>(n);
-    const struct {
-      Orb32s flag;
-      long double forward;
-      long double inverse;
-    } kCases[] = {{FftScaleFwdByN, byN, 1},
-                  {FftScaleInvByN, 1, byN},
-                  {FftScaleBySqrtN, std::sqrt(byN), std::sqrt(byN)},
-                  {FftScaleNone, 1, 1}};
-    for (const auto& flagged : kCases) {
+    for (const FlagCase& flagged : FlagCases(n)) {
       const TestPlan plan(fft, kind, order, flagged.flag);
       for (const bool inverse : {false, true}) {
         ExactArray expected = ToExact(Transform(plain, inverse, x));

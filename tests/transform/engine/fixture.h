@@ -73,6 +73,20 @@ class TestPlan {
   Orb32s workSize_ = -1;
 };
 
+// What a flag divides the results of each direction by, for n points.
+struct FlagCase {
+  Orb32s flag;
+  long double forward;
+  long double inverse;
+};
+inline std::vector<FlagCase> FlagCases(size_t n) {
+  const auto byN = static_cast<long double>(n);
+  return {{FftScaleFwdByN, byN, 1},
+          {FftScaleInvByN, 1, byN},
+          {FftScaleBySqrtN, std::sqrt(byN), std::sqrt(byN)},
+          {FftScaleNone, 1, 1}};
+}
+
 struct CallStyle {
   bool inPlace;
   bool givenWork;

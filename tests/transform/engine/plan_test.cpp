@@ -6,6 +6,7 @@
 #include "core/memory.h"
 #include "tests/support/failing_allocator.h"
 #include "tests/transform/engine/fixture.h"
+#include "tests/transform/plan_sizes.h"
 
 namespace orbs::test {
 namespace {
@@ -13,146 +14,30 @@ namespace {
 class FftPlanTest : public FftTest {};
 ORBS_INSTANTIATE_VARIANTS(FftPlanTest);
 
-// ---- Sizes, summed up as a user's manual would: 32f numbers first, 64f second ----
+// ---- Sizes ----
 
-struct Limits {
-  int complexOrder[2];
-  int realOrder[2];
-  int complexCodelet;
-  int realCodelet[2];
-  int halfCodelet;
-  int onePass[2];
-  int twoLevels[2];
-};
-
-Limits LimitsOf(Variant variant) {
-  Limits limits = {{28, 27}, {29, 28}, 5, {4, 5}, 6, {17, 16}, {19, 18}};
-  switch (variant) {
-    case Variant::px:
-      return {{27, 26}, {28, 27}, 5, {5, 5}, 6, {10, 10}, {19, 18}};
-    case Variant::w7:
-      limits.onePass[0] = 15;
-      limits.onePass[1] = 13;
-      return limits;
-    case Variant::v8:
-      return limits;
-    case Variant::s8:
-      return {{28, 26}, {29, 27}, 5, {4, 5}, 6, {15, 12}, {18, 18}};
-    case Variant::p8:
-      limits.twoLevels[0] = 20;
-      limits.twoLevels[1] = 19;
-      return limits;
-    case Variant::g9:
-    case Variant::h9:
-      return {{28, 27}, {29, 28}, 6, {4, 4}, 7, {18, 17}, {18, 18}};
-  }
-  return limits;
+FloatPlanSizes SizesOf(Variant variant, FftKind kind) {
+  return FloatPlanSizes(variant, Is64f(kind), IsReal(kind), kind == kC_32fc || kind == kC_64fc);
 }
-
-constexpr Orb64s Down64(Orb64s x) { return x & ~Orb64s{63}; }
-
-struct Sizes {
-  Orb64s plan;
-  Orb64s init;
-  Orb64s work;
-  friend bool operator==(const Sizes& a, const Sizes& b) {
-    return a.plan == b.plan && a.init == b.init && a.work == b.work;
-  }
-  friend std::ostream& operator<<(std::ostream& out, const Sizes& s) {
-    return out << s.plan << " " << s.init << " " << s.work;
-  }
-};
-
-class SizeRules {
- public:
-  SizeRules(Variant variant, FftKind kind)
-      : variant_(variant), kind_(kind), wide_(Is64f(kind)), limits_(LimitsOf(variant)) {}
-
-  int MaxOrder() const { return IsReal(kind_) ? limits_.realOrder[wide_] : limits_.complexOrder[wide_]; }
-  // Above it a vector variant lays out its plans as it likes.
-  int LastRuled() const {
-    if (variant_ == Variant::px) return MaxOrder();
-    return limits_.onePass[wide_] + (IsReal(kind_) ? 1 : 0);
-  }
-
-  Sizes Of(int order) const {
-    const Sizes record = {wide_ ? 160 : 152, 0, 0};
-    if (!IsReal(kind_)) {
-      if (order <= limits_.complexCodelet) return record;
-      return WithComplex({192, order > 10 ? Q(order) + 64 : 0, 0}, order);
-    }
-    if (order <= limits_.realCodelet[wide_]) return record;
-    const Sizes real = {RealTables(order) + 192, order > 10 ? Q(order) + 64 : 0, 0};
-    return order <= limits_.halfCodelet ? real : WithComplex(real, order - 1);
-  }
-
- private:
-  Sizes WithComplex(Sizes sizes, int order) const {
-    const Orb64s n = Orb64s{1} << order;
-    if (variant_ != Variant::px) {
-      const bool none = variant_ == Variant::s8 && kind_ == kC_64fc;
-      const Orb64s work = none ? 0 : Down64((wide_ ? 16 : 8) * n + 63) + 64;
-      return {sizes.plan + K(order) + B(order), sizes.init, work};
-    }
-    if (order <= 10) return {sizes.plan + K(order) + B(order), sizes.init, 0};
-    const Orb64s w = W(order);
-    return {sizes.plan + T(order) + B(order), sizes.init + I(order), w > 0 ? w + 64 : 0};
-  }
-
-  int Split(int order) const {
-    static const char* const kSplit32 = "00567888aaaa88aaa";  // orders 11 to 27, hexadecimal
-    static const char* const kSplit64 = "04567789998899990";
-    const char digit = (wide_ ? kSplit64 : kSplit32)[order - 11];
-    return digit <= '9' ? digit - '0' : digit - 'a' + 10;
-  }
-
-  static Orb64s B(int n) { return Down64((Orb64s{1} << n) + 67); }
-  Orb64s K(int n) const { return wide_ ? Down64((Orb64s{16} << n) + 79) : Down64((Orb64s{8} << n) + 71); }
-  Orb64s L(int n) const { return Down64((Orb64s{wide_ ? 4 : 2} << n) + 63); }
-  Orb64s Q(int n) const { return wide_ ? Down64((Orb64s{2} << n) + 71) : Down64((Orb64s{1} << n) + 67); }
-  Orb64s T(int n) const {
-    if (n <= 10) return K(n);
-    const int t = Split(n);
-    return t == 0 ? L(n) + K(10) : T(n - t) + K(t) + (Orb64s{wide_ ? 16 : 8} << n);
-  }
-  Orb64s I(int n) const {
-    const int t = n <= 10 ? 0 : Split(n);
-    return t == 0 ? 0 : I(n - t) + B(t) + (Orb64s{wide_ ? 64 : 32} << t);
-  }
-  Orb64s W(int n) const {
-    const int t = n <= 10 ? 0 : Split(n);
-    return t == 0 ? 0 : std::max(Orb64s{wide_ ? 64 : 32} << t, W(n - t));
-  }
-  Orb64s RealTables(int order) const {
-    const Orb64s n = Orb64s{1} << order;
-    const bool two = order >= limits_.twoLevels[wide_];
-    return (two ? n / (wide_ ? 64 : 256) + 16510 : (wide_ ? 8 : 4) * n + 126) & ~Orb64s{127};
-  }
-
-  Variant variant_;
-  FftKind kind_;
-  bool wide_;
-  Limits limits_;
-};
 
 TEST_P(FftPlanTest, SizesAreWhatTheyAlwaysWere) {
   for (int k = 0; k < kFftKinds; ++k) {
     const auto kind = static_cast<FftKind>(k);
-    const SizeRules rules(GetParam(), kind);
+    const FloatPlanSizes rules = SizesOf(GetParam(), kind);
     for (int order = 0; order <= rules.MaxOrder(); ++order) {
       for (const Orb32s flag : {FftScaleFwdByN, FftScaleNone}) {
         Orb32s plan = -1;
         Orb32s init = -1;
         Orb32s work = -1;
         ASSERT_EQ(fft.plan[k].getSize(order, flag, order % 3, &plan, &init, &work), StatusOk);
-        const Sizes sizes = {plan, init, work};
+        const PlanSizes sizes = {plan, init, work};
         if (order <= rules.LastRuled()) {
           EXPECT_EQ(sizes, rules.Of(order)) << kFftKindNames[k] << " " << order;
         }
         EXPECT_GT(plan, 0);
         EXPECT_GE(init, 0);
         EXPECT_GE(work, 0);
-        EXPECT_LT(std::max({plan, init, work}), INT32_MAX) << kFftKindNames[k] << " " << order;
+        EXPECT_LT(sizes.Largest(), INT32_MAX) << kFftKindNames[k] << " " << order;
       }
     }
   }
@@ -163,7 +48,7 @@ TEST_P(FftPlanTest, SizesAreWhatTheyAlwaysWere) {
 TEST_P(FftPlanTest, SizeQueryChecksInItsOwnOrder) {
   for (int k = 0; k < kFftKinds; ++k) {
     SCOPED_TRACE(kFftKindNames[k]);
-    const int max = SizeRules(GetParam(), static_cast<FftKind>(k)).MaxOrder();
+    const int max = SizesOf(GetParam(), static_cast<FftKind>(k)).MaxOrder();
     const auto getSize = fft.plan[k].getSize;
     Orb32s sizes[3] = {-7, -7, -7};
     for (const int order : {-1, 31, INT32_MIN, INT32_MAX}) {
@@ -186,7 +71,7 @@ TEST_P(FftPlanTest, SizeQueryChecksInItsOwnOrder) {
 TEST_P(FftPlanTest, InitChecksAndLeavesADeadPlan) {
   for (int k = 0; k < kFftKinds; ++k) {
     SCOPED_TRACE(kFftKindNames[k]);
-    const int max = SizeRules(GetParam(), static_cast<FftKind>(k)).MaxOrder();
+    const int max = SizesOf(GetParam(), static_cast<FftKind>(k)).MaxOrder();
     const FftPlanAccess& access = fft.plan[k];
     Bytes memory(1 << 18);
     Bytes init(1 << 14);
@@ -303,24 +188,19 @@ void SetHeap(void* (*allocate)(size_t), void (*release)(void*)) { SetAllocator({
 TEST_P(FftPlanTest, InitAllocSurvivesEveryFailingAllocation) {
   for (int k = 0; k < kFftKinds; ++k) {
     for (const int order : {2, 9, 12}) {
-      for (int n = 0;; ++n) {
+      SCOPED_TRACE(testing::Message() << kFftKindNames[k] << " order " << order);
+      FailEachAllocation(SetHeap, [&](FailingAllocator& heap) {
         int marker = 0;
         void* plan = &marker;
-        FailingAllocator heap(SetHeap, n);
         const OrbStatus status = fft.plan[k].initAlloc(&plan, order, FftScaleInvByN, HintNone);
-        if (!heap.Failed()) {
-          EXPECT_EQ(status, StatusOk);
-          EXPECT_EQ(heap.Count(),
-                    order > 10 ? 2 : 1);  // the plan, and for the time of the call the init buffer
-          EXPECT_EQ(heap.Alive(), 1);
-          EXPECT_EQ(fft.plan[k].free(plan), StatusOk);
-          EXPECT_EQ(heap.Alive(), 0);
-          break;
-        }
-        EXPECT_EQ(status, StatusMemAlloc) << kFftKindNames[k] << " " << order;
-        EXPECT_EQ(heap.Alive(), 0);
-        EXPECT_EQ(plan, &marker);
-      }
+        EXPECT_EQ(plan == &marker, status != StatusOk);
+        if (status != StatusOk) return status;
+        // The plan, and for the time of the call the init buffer.
+        EXPECT_EQ(heap.Count(), order > 10 ? 2 : 1);
+        EXPECT_EQ(heap.Alive(), 1);
+        EXPECT_EQ(fft.plan[k].free(plan), StatusOk);
+        return status;
+      });
     }
   }
 }

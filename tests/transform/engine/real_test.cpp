@@ -111,15 +111,7 @@ void CheckFlags(const FftAccess& fft) {
     const size_t n = size_t{1} << order;
     const std::vector<T> x = RandomArray<T>(n, 9);
     const TestPlan plain(fft, RealKind<T>(), order);
-    const auto byN = static_cast<long double>(n);
-    const struct {
-      Orb32s flag;
-      long double forward;
-      long double inverse;
-    } kCases[] = {{FftScaleFwdByN, byN, 1},
-                  {FftScaleInvByN, 1, byN},
-                  {FftScaleBySqrtN, std::sqrt(byN), std::sqrt(byN)}};
-    for (const auto& flagged : kCases) {
+    for (const FlagCase& flagged : FlagCases(n)) {
       SCOPED_TRACE("order " + std::to_string(order) + ", flag " + std::to_string(flagged.flag));
       const TestPlan plan(fft, RealKind<T>(), order, flagged.flag);
       const auto check = [&](OneArray transform, long double divisor) {

@@ -5,6 +5,7 @@
 #include "tests/support/failing_allocator.h"
 #include "tests/support/guarded_array.h"
 #include "tests/transform/integer/cases.h"
+#include "tests/transform/plan_sizes.h"
 
 namespace orbs::test {
 namespace {
@@ -12,123 +13,29 @@ namespace {
 class FftIntegerPlanTest : public ExportTest {};
 ORBS_INSTANTIATE_VARIANTS(FftIntegerPlanTest);
 
-struct Sizes {
-  int64_t plan;
-  int64_t init;
-  int64_t work;
-};
-
-bool operator==(const Sizes& a, const Sizes& b) {
-  return a.plan == b.plan && a.init == b.init && a.work == b.work;
-}
-std::ostream& operator<<(std::ostream& out, const Sizes& sizes) {
-  return out << "plan " << sizes.plan << " init " << sizes.init << " work " << sizes.work;
-}
-
-// ---- The sizes of the floating-point plans, by formula ----
-
-struct Limits {
-  int maxComplex[2];  // binary32, binary64
-  int codelet;
-  int realCodelet[2];
-  int halfCodelet;
-  int onePass[2];
-  int twoLevel[2];
-};
-
-const Limits& LimitsOf(Variant variant) {
-  static const Limits kLimits[] = {
-      {{27, 26}, 5, {5, 5}, 6, {10, 10}, {19, 18}}, {{28, 27}, 5, {4, 5}, 6, {15, 13}, {19, 18}},
-      {{28, 27}, 5, {4, 5}, 6, {17, 16}, {19, 18}}, {{28, 26}, 5, {4, 5}, 6, {15, 12}, {18, 18}},
-      {{28, 27}, 5, {4, 5}, 6, {17, 16}, {20, 19}}, {{28, 27}, 6, {4, 4}, 7, {18, 17}, {18, 18}},
-      {{28, 27}, 6, {4, 4}, 7, {18, 17}, {18, 18}}};
-  return kLimits[static_cast<int>(variant)];
-}
-
-int64_t Down64(int64_t x) { return x & ~int64_t{63}; }
-
-class FloatSizes {
- public:
-  FloatSizes(Variant variant, bool wide) : variant_(variant), limits_(LimitsOf(variant)), wide_(wide) {}
-
-  static int64_t B(int n) { return Down64(Two(n) + 67); }
-
-  // Whether the formulas hold: above their one-pass ceiling the vector variants have layouts of their own.
-  bool Known(bool real, int order) const {
-    return variant_ == Variant::px || (real ? order - 1 : order) <= limits_.onePass[wide_];
-  }
-  int MaxOrder(bool real) const { return limits_.maxComplex[wide_] + (real ? 1 : 0); }
-
-  Sizes Of(bool real, int order) const {
-    if (order <= (real ? limits_.realCodelet[wide_] : limits_.codelet)) return {wide_ ? 160 : 152, 0, 0};
-    const int h = real ? order - 1 : order;
-    const int64_t tables = real ? RealTables(order) : 0;
-    const int64_t sine = order > 10 ? Q(order) + 64 : 0;
-    if (real && order <= limits_.halfCodelet) return {tables + 192, sine, 0};
-    if (variant_ != Variant::px) {
-      const bool inPlace = variant_ == Variant::s8 && wide_ && !real;
-      const int64_t work = inPlace ? 0 : Down64((wide_ ? 16 : 8) * Two(h) + 63) + 64;
-      return {K(h) + B(h) + tables + 192, sine, work};
-    }
-    if (h <= 10) return {K(h) + B(h) + tables + 192, sine, 0};
-    const int64_t work = W(h);
-    return {T(h) + B(h) + tables + 192, I(h) + sine, work == 0 ? 0 : work + 64};
-  }
-
- private:
-  static int64_t Two(int n) { return int64_t{1} << n; }
-  int64_t K(int n) const { return wide_ ? Down64(16 * Two(n) + 79) : Down64(8 * Two(n) + 71); }
-  int64_t L(int n) const { return Down64((wide_ ? 4 : 2) * Two(n) + 63); }
-  int64_t Q(int n) const { return wide_ ? Down64(2 * Two(n) + 71) : Down64(Two(n) + 67); }
-  int Split(int n) const {
-    static const int k32[] = {0, 0, 5, 6, 7, 8, 8, 8, 10, 10, 10, 10, 8, 8, 10, 10, 10};
-    static const int k64[] = {0, 4, 5, 6, 7, 7, 8, 9, 9, 9, 8, 8, 9, 9, 9, 9};
-    return wide_ ? k64[n - 11] : k32[n - 11];
-  }
-  int64_t T(int n) const {
-    if (n <= 10) return K(n);
-    const int t = Split(n);
-    return t == 0 ? L(n) + K(10) : T(n - t) + K(t) + (wide_ ? 16 : 8) * Two(n);
-  }
-  int64_t I(int n) const {
-    const int t = n <= 10 ? 0 : Split(n);
-    return t == 0 ? 0 : I(n - t) + B(t) + (wide_ ? 64 : 32) * Two(t);
-  }
-  int64_t W(int n) const {
-    const int t = n <= 10 ? 0 : Split(n);
-    return t == 0 ? 0 : std::max((wide_ ? 64 : 32) * Two(t), W(n - t));
-  }
-  int64_t RealTables(int order) const {
-    const int64_t n = Two(order);
-    if (order >= limits_.twoLevel[wide_]) return ((wide_ ? n / 64 : n / 256) + 16510) & ~int64_t{127};
-    return ((wide_ ? 8 : 4) * n + 126) & ~int64_t{127};
-  }
-
-  Variant variant_;
-  const Limits& limits_;
-  bool wide_;
-};
-
-Sizes ExpectedSizes(const PlanKind& kind, const FloatSizes& floats, int order, bool fixed) {
+// `floats` are those of the floating-point plan inside.
+PlanSizes ExpectedSizes(const PlanKind& kind, const FloatPlanSizes& floats, int order, bool fixed) {
   const int64_t n = int64_t{1} << order;
   if (kind.fixed && order == 0) return {116, 0, 0};
   if (fixed) {
     const int64_t init = Down64(n / 2 + 65) + 64;
     if (!kind.real)
-      return {Down64(8 * n + 63) + FloatSizes::B(order) + 128, init, (kind.parts ? 12 : 8) * n + 64};
-    return {Down64(4 * n + 63) + FloatSizes::B(order - 1) + Down64(8 * n + 63) + 128, init, 4 * n + 8 + 64};
+      return {Down64(8 * n + 63) + BitReversalBytes(order) + 128, init, (kind.parts ? 12 : 8) * n + 64};
+    return {Down64(4 * n + 63) + BitReversalBytes(order - 1) + Down64(8 * n + 63) + 128, init,
+            4 * n + 8 + 64};
   }
-  const Sizes nested = floats.Of(kind.real, order);
+  const PlanSizes nested = floats.Of(order);
   const int64_t data = (kind.real ? n + 2 : 2 * n) * (kind.wide ? 8 : 4);
   return {nested.plan + 128, kind.fixed || nested.init > 0 ? nested.init + 64 : 0, nested.work + data + 64};
 }
 
-Sizes Clamped(Sizes sizes) {
+PlanSizes Clamped(PlanSizes sizes) {
   for (int64_t* size : {&sizes.plan, &sizes.init, &sizes.work}) *size = std::min<int64_t>(*size, INT32_MAX);
   return sizes;
 }
 
-OrbStatus Query(const PlanKind& kind, int order, OrbAlgHint hint, Sizes* sizes, Orb32s flag = FftScaleNone) {
+OrbStatus Query(const PlanKind& kind, int order, OrbAlgHint hint, PlanSizes* sizes,
+                Orb32s flag = FftScaleNone) {
   Orb32s plan = -1, init = -1, work = -1;
   const OrbStatus status = kind.getSize(order, flag, hint, &plan, &init, &work);
   *sizes = {plan, init, work};
@@ -137,25 +44,24 @@ OrbStatus Query(const PlanKind& kind, int order, OrbAlgHint hint, Sizes* sizes, 
 
 TEST_P(FftIntegerPlanTest, SizesAreExact) {
   for (const PlanKind& kind : kPlanKinds) {
-    const FloatSizes floats(GetParam(), kind.wide);
+    const FloatPlanSizes floats(GetParam(), kind.wide, kind.real, !kind.real);
     for (int order = 0; order <= 30; ++order) {
       for (OrbAlgHint hint : {-1, 0, 1, 2, 77}) {
         SCOPED_TRACE(testing::Message() << kind.name << " order " << order << " hint " << hint);
-        Sizes sizes;
+        PlanSizes sizes;
         const OrbStatus status = Query(kind, order, hint, &sizes, kFlags[order % 4]);
-        if (order > floats.MaxOrder(kind.real)) {
+        if (order > floats.MaxOrder()) {
           EXPECT_EQ(status, StatusFftOrder);
-          EXPECT_EQ(sizes, (Sizes{-1, -1, -1}));
+          EXPECT_EQ(sizes, (PlanSizes{-1, -1, -1}));
           continue;
         }
         ASSERT_EQ(status, StatusOk);
         const bool fast = hint == HintNone || hint == HintFast;
         const bool fixed = kind.fixed && fast && order > 0 && order < FixedLimit(GetParam());
-        if (fixed || floats.Known(kind.real, order)) {
+        if (fixed || order <= floats.LastRuled()) {
           ASSERT_EQ(sizes, Clamped(ExpectedSizes(kind, floats, order, fixed)));
         }
-        const bool tooLarge = std::max({sizes.plan, sizes.init, sizes.work}) == INT32_MAX;
-        if (!tooLarge) continue;
+        if (sizes.Largest() < INT32_MAX) continue;
         const FailingAllocator heap(orbsSetAllocator, FailingAllocator::kNever);
         void* plan = nullptr;
         EXPECT_EQ(kind.initAlloc(&plan, order, FftScaleNone, hint), StatusMemAlloc);
@@ -190,7 +96,7 @@ TEST_P(FftIntegerPlanTest, TheReportedBytesAreEnoughAtAnyAddress) {
     for (int order : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 13}) {
       for (OrbAlgHint hint : {HintNone, HintAccurate}) {
         SCOPED_TRACE(testing::Message() << kind.name << " order " << order << " hint " << hint);
-        Sizes sizes;
+        PlanSizes sizes;
         ASSERT_EQ(Query(kind, order, hint, &sizes), StatusOk);
         void* allocated = nullptr;
         ASSERT_EQ(kind.initAlloc(&allocated, order, FftScaleBySqrtN, hint), StatusOk);
@@ -235,21 +141,14 @@ TEST_P(FftIntegerPlanTest, FailedAllocationsLeaveNothing) {
         SCOPED_TRACE(testing::Message() << kind.name << " order " << order << " hint " << hint);
         int somewhere = 0;
         void* const untouched = &somewhere;
-        for (int n = 0;; ++n) {
-          const FailingAllocator heap(orbsSetAllocator, n);
+        FailEachAllocation(orbsSetAllocator, [&](FailingAllocator& heap) {
           void* plan = untouched;
           const OrbStatus status = kind.initAlloc(&plan, order, FftScaleNone, hint);
-          if (!heap.Failed()) {
-            ASSERT_EQ(status, StatusOk);
-            EXPECT_EQ(heap.Alive(), 1);
-            EXPECT_EQ(kind.free(plan), StatusOk);
-            EXPECT_EQ(heap.Alive(), 0);
-            break;
-          }
-          ASSERT_EQ(status, StatusMemAlloc);
-          EXPECT_EQ(plan, untouched);
-          EXPECT_EQ(heap.Alive(), 0);
-        }
+          EXPECT_EQ(plan == untouched, status != StatusOk);
+          EXPECT_EQ(heap.Alive(), status == StatusOk ? 1 : 0);
+          if (status == StatusOk) kind.free(plan);
+          return status;
+        });
       }
     }
   }

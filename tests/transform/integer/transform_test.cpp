@@ -327,19 +327,5 @@ TEST_P(FftIntegerTest, ImpulsesRoundTiesToEvenAndSaturate) {
   }
 }
 
-// The order of the additions may differ from a flag's multiplication, the value may not.
-TEST_P(FftIntegerTest, ScaleFactorReplacesTheFlagInFixedPoint) {
-  for (const Operation& op : kOperations) {
-    const int order = 3;
-    if (!TakesFixedPath(op, order)) continue;
-    const Plan divides(op.plan, order, op.forward ? FftScaleFwdByN : FftScaleInvByN, HintNone);
-    const Plan plain(op.plan, order, FftScaleNone, HintNone);
-    const Integers source = RandomSource(op, order, 7, 16);
-    EXPECT_EQ(Caller(op, divides.Get(), order, 0)(source, 0),
-              Caller(op, plain.Get(), order, 0)(source, order))
-        << op.name;
-  }
-}
-
 }  // namespace
 }  // namespace orbs::test

@@ -2,14 +2,16 @@
 // spectra as complex numbers, k = 0 to n/2, and put them into a layout by listing its elements in order.
 #include <algorithm>
 #include <cstdlib>
-#include <limits>
 #include <numeric>
 #include <random>
 #include <vector>
 
+#include "tests/support/bad_calls.h"
 #include "tests/support/export_test.h"
 #include "tests/support/guarded_array.h"
+#include "tests/support/lengths.h"
 #include "tests/support/random_data.h"
+#include "tests/support/rows.h"
 
 namespace orbs::test {
 namespace {
@@ -19,15 +21,12 @@ using Samples = std::vector<Orb16s>;
 constexpr Orb16s kLowest = -32768;
 constexpr Orb16s kHighest = 32767;
 
-// All lengths around the blocks of the kernels, odd and even, and some of many blocks.
-std::vector<int> Lengths() {
-  std::vector<int> lengths(140);
-  std::iota(lengths.begin(), lengths.end(), 1);
-  for (int length : {255, 256, 257, 1000, 1001, 4097}) lengths.push_back(length);
-  return lengths;
-}
+// Around the blocks of the kernels, odd and even, and some of many blocks.
+const std::vector<int> kLengths = Lengths(140, {255, 256, 257, 1000, 1001, 4097});
 
 enum class Layout { kCcs, kPack, kPerm };
+constexpr const char* kLayoutNames[] = {"CCS", "Pack", "Perm"};
+const char* NameOf(Layout layout) { return kLayoutNames[static_cast<int>(layout)]; }
 
 // A spectrum of a signal of `length` points. 16-bit parts, in a type that products fit into.
 struct Spectrum {
@@ -150,9 +149,9 @@ OrbStatus SpreadInPlace(Layout layout, Orb16s* srcDst, Orb32s len) {
 constexpr Layout kLayouts[] = {Layout::kCcs, Layout::kPack, Layout::kPerm};
 
 TEST_P(SpectrumTest, SpreadingGivesTheFullSpectrum) {
-  for (int length : Lengths()) {
+  for (int length : kLengths) {
     for (Layout layout : kLayouts) {
-      SCOPED_TRACE(testing::Message() << "layout " << static_cast<int>(layout) << " length " << length);
+      SCOPED_TRACE(testing::Message() << NameOf(layout) << ", length " << length);
       const size_t gap = 2 * (static_cast<size_t>(length) % 5);
       // CCS keeps what stands in the two places that are 0 for a real signal.
       const auto x = Spectrum::Random(length, static_cast<uint32_t>(length), layout != Layout::kCcs);
@@ -199,8 +198,8 @@ constexpr Mul kMuls[] = {{Layout::kPack, legacy90orbsMulPack_16s_Sfs, legacy90or
 
 // Both forms, and the result in the place of either source, against the reference.
 void CheckProduct(const Mul& mul, const Spectrum& a, const Spectrum& b, Orb32s scaleFactor, size_t gap = 0) {
-  SCOPED_TRACE(testing::Message() << "layout " << static_cast<int>(mul.layout) << " length " << a.length
-                                  << " scale factor " << scaleFactor);
+  SCOPED_TRACE(testing::Message() << NameOf(mul.layout) << ", length " << a.length << ", scale factor "
+                                  << scaleFactor);
   const Orb32s n = a.length;
   const Samples expected = Packed(Product(a, b, scaleFactor), mul.layout);
   GuardedArray<Orb16s> src1(Packed(a, mul.layout), gap);
@@ -223,7 +222,7 @@ void CheckProduct(const Mul& mul, const Spectrum& a, const Spectrum& b, Orb32s s
 
 TEST_P(SpectrumTest, ProductsOfEveryLength) {
   for (const Mul& mul : kMuls) {
-    for (int length : Lengths()) {
+    for (int length : kLengths) {
       const auto seed = static_cast<uint32_t>(length);
       const auto a = Spectrum::Random(length, seed);
       const auto b = Spectrum::Random(length, seed + 5000);
@@ -261,8 +260,8 @@ TEST_P(SpectrumTest, ProductsOfExtremesWithEveryScaleFactor) {
   std::iota(scaleFactors.begin(), scaleFactors.end(), -40);
   for (Orb32s s : {63, 64, 65, -63, -64, -65, 1000, -1000}) scaleFactors.push_back(s);
   for (Orb32s distance : {0, 1, 2, 31, 32}) {
-    scaleFactors.push_back(std::numeric_limits<Orb32s>::max() - distance);
-    scaleFactors.push_back(std::numeric_limits<Orb32s>::min() + distance);
+    scaleFactors.push_back(kMost - distance);
+    scaleFactors.push_back(kLeast + distance);
   }
   for (Orb32s scaleFactor : scaleFactors) {
     for (const Mul& mul : kMuls) ASSERT_NO_FATAL_FAILURE(CheckProduct(mul, a, b, scaleFactor));
@@ -305,31 +304,12 @@ TEST_P(SpectrumTest, ProductsByHand) {
 // ---- Statuses ----
 
 TEST_P(SpectrumTest, BadArgumentsGiveTheirStatusAndWriteNothing) {
-  const GuardedArray<Orb16s> src(16);
-  GuardedArray<Orb16s> dst(32);
-  for (Layout layout : kLayouts) {
-    EXPECT_EQ(Spread(layout, nullptr, dst.data(), 0), StatusNullPointer);
-    EXPECT_EQ(Spread(layout, src.data(), nullptr, -1), StatusNullPointer);
-    EXPECT_EQ(SpreadInPlace(layout, nullptr, 0), StatusNullPointer);
-  }
-  for (const Mul& mul : kMuls) {
-    EXPECT_EQ(mul.function(nullptr, src.data(), dst.data(), 0, 0), StatusNullPointer);
-    EXPECT_EQ(mul.function(src.data(), nullptr, dst.data(), 0, 0), StatusNullPointer);
-    EXPECT_EQ(mul.function(src.data(), src.data(), nullptr, 0, 0), StatusNullPointer);
-    EXPECT_EQ(mul.inPlace(nullptr, dst.data(), 0, 0), StatusNullPointer);
-    EXPECT_EQ(mul.inPlace(src.data(), nullptr, 0, 0), StatusNullPointer);
-  }
-  for (Orb32s length : {0, -1, std::numeric_limits<Orb32s>::min()}) {
-    for (Layout layout : kLayouts) {
-      EXPECT_EQ(Spread(layout, src.data(), dst.data(), length), StatusSize);
-      EXPECT_EQ(SpreadInPlace(layout, dst.data(), length), StatusSize);
-    }
-    for (const Mul& mul : kMuls) {
-      EXPECT_EQ(mul.function(src.data(), src.data(), dst.data(), length, 0), StatusSize);
-      EXPECT_EQ(mul.inPlace(src.data(), dst.data(), length, 0), StatusSize);
-    }
-  }
-  EXPECT_TRUE(dst.Untouched());
+  ForEachFunction([](auto* function) { CheckBadCalls(function); }, ORBS_NAMED(legacy90orbsConjCcs_16sc),
+                  ORBS_NAMED(legacy90orbsConjPack_16sc), ORBS_NAMED(legacy90orbsConjPerm_16sc),
+                  ORBS_NAMED(legacy90orbsConjCcs_16sc_I), ORBS_NAMED(legacy90orbsConjPack_16sc_I),
+                  ORBS_NAMED(legacy90orbsConjPerm_16sc_I), ORBS_NAMED(legacy90orbsMulPack_16s_Sfs),
+                  ORBS_NAMED(legacy90orbsMulPack_16s_ISfs), ORBS_NAMED(legacy90orbsMulPerm_16s_Sfs),
+                  ORBS_NAMED(legacy90orbsMulPerm_16s_ISfs));
 }
 
 }  // namespace
