@@ -29,11 +29,12 @@
 namespace orbs::ORBS_VARIANT {
 
 inline constexpr Variant kVariant = static_cast<Variant>(ORBS_VARIANT_INDEX);
+inline constexpr bool kIsPx = kVariant == Variant::px;
 
 // The type in which a floating-point expression is evaluated: extended precision in px, the kernel's own type
 // elsewhere.
 template <class T>
-using Wide = std::conditional_t<kVariant == Variant::px, long double, T>;
+using Wide = std::conditional_t<kIsPx, long double, T>;
 
 }  // namespace orbs::ORBS_VARIANT
 

@@ -10,7 +10,6 @@
 namespace orbs::ORBS_VARIANT::fir {
 
 // Groups of variants that share numbers.
-inline constexpr bool kIsPx = kVariant == Variant::px;
 inline constexpr bool kIsW7 = kVariant == Variant::w7;
 inline constexpr bool kIsAvx = kVariant == Variant::g9 || kVariant == Variant::h9;
 

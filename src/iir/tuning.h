@@ -1,4 +1,5 @@
-// What differs between the variants of the IIR filters, and the sizes of the blocks that their kernels work on.
+// What differs between the variants of the IIR filters, and the sizes of the blocks that their kernels work
+// on.
 #ifndef ORBS_IIR_TUNING_H
 #define ORBS_IIR_TUNING_H
 
@@ -7,9 +8,6 @@
 #include "simd/simd.h"
 
 namespace orbs::ORBS_VARIANT::iir {
-
-// px keeps neither blocks nor tables: it goes sample by sample.
-inline constexpr bool kIsPx = kVariant == Variant::px;
 
 // Samples of a piece: two blocks of them, with the tables, stay in the first-level cache.
 inline constexpr Orb32s kIirPiece = 1024;

@@ -176,7 +176,7 @@ void RunSteps(IirView<Kind> view, const typename Kind::Data* src, typename Kind:
               Orb32f factor) {
   using N = StepNumber<Kind>;
   int64_t i = 0;
-  if constexpr (kVariant == Variant::px && !Kind::kCascade) {
+  if constexpr (kIsPx && !Kind::kCascade) {
     if (view.state->delayLen >= 2) {
       for (; i + 2 <= count; i += 2) {
         const N x[2] = {N::From(src[i]), N::From(src[i + 1])};
