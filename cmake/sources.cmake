@@ -59,7 +59,7 @@ set(ORBS_VARIANT_SOURCES
     src/iir/filter_exports.cpp
     src/iir/init_exports.cpp
     src/iir/run.cpp
-    src/iir/sizes.cpp
+    src/iir/state/sizes.cpp
     src/modem/fm_exports.cpp
     src/modem/goertzel_exports.cpp
     src/modem/viterbi_exports.cpp)

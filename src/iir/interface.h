@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "core/checks.h"
-#include "iir/state.h"
+#include "iir/state/state.h"
 
 namespace orbs::ORBS_VARIANT::iir {
 

@@ -2,7 +2,7 @@
 #ifndef ORBS_IIR_RUN_H
 #define ORBS_IIR_RUN_H
 
-#include "iir/state.h"
+#include "iir/state/state.h"
 
 namespace orbs::ORBS_VARIANT::iir {
 

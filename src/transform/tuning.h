@@ -68,7 +68,7 @@ constexpr bool IsRealCodelet(int order) {
 inline constexpr bool kReversesPairs64fInPlace = kVariant == Variant::s8;
 
 // From this order on the 16-bit integer plans always take the floating-point path.
-inline constexpr Orb32s kFixedPathLimit = kVariant == Variant::px ? 9 : 4;
+inline constexpr Orb32s kFixedPathLimit = kIsPx ? 9 : 4;
 
 // Entries of the fine level of the two-level real tables.
 template <class T>

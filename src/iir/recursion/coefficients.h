@@ -3,8 +3,8 @@
 #ifndef ORBS_IIR_RECURSION_COEFFICIENTS_H
 #define ORBS_IIR_RECURSION_COEFFICIENTS_H
 
-#include "iir/layout.h"
 #include "iir/recursion/number.h"
+#include "iir/state/layout.h"
 #include "orbs90lgc/status.h"
 
 namespace orbs::ORBS_VARIANT::iir {

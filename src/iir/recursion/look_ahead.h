@@ -18,7 +18,7 @@
 #include <cstring>
 
 #include "core/unrolled.h"
-#include "iir/layout.h"
+#include "iir/state/layout.h"
 #include "simd/blocks.h"
 #include "simd/lanes.h"
 #include "simd/product_sum.h"

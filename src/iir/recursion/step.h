@@ -9,8 +9,8 @@
 #define ORBS_IIR_RECURSION_STEP_H
 
 #include "core/scaling.h"
-#include "iir/layout.h"
 #include "iir/recursion/number.h"
+#include "iir/state/layout.h"
 #include "simd/lanes.h"
 
 namespace orbs::ORBS_VARIANT::iir {

@@ -1,4 +1,4 @@
-#include "tests/support/checked_calls.h"
+#include "tests/support/checked_calls/checked_calls.h"
 
 #include <gtest/gtest.h>
 

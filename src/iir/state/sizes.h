@@ -1,10 +1,10 @@
 // The sizes of IIR states, as the size queries report them. They are interface: callers allocate by them, so
 // they stay as they are, whatever a variant keeps in the room. They include the room for aligning the
 // caller's memory; sizes.cpp proves that each block fits.
-#ifndef ORBS_IIR_SIZES_H
-#define ORBS_IIR_SIZES_H
+#ifndef ORBS_IIR_STATE_SIZES_H
+#define ORBS_IIR_STATE_SIZES_H
 
-#include "iir/state.h"
+#include "iir/state/state.h"
 #include "iir/tuning.h"
 
 namespace orbs::ORBS_VARIANT::iir {

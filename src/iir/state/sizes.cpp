@@ -1,9 +1,9 @@
 // The proof that the blocks of IIR states fit the sizes that their queries report, wherever the caller's
 // memory starts. It takes place in the compiler; nothing here becomes code.
-#include "iir/sizes.h"
+#include "iir/state/sizes.h"
 
 #include "core/size_grid.h"
-#include "iir/layout.h"
+#include "iir/state/layout.h"
 
 namespace orbs::ORBS_VARIANT::iir {
 namespace {

@@ -1,10 +1,10 @@
 // What the block of an IIR state holds: the one description from which Init, InitAlloc and the direct forms
 // take their numbers. The size query reports what sizes.h fixes.
-#ifndef ORBS_IIR_LAYOUT_H
-#define ORBS_IIR_LAYOUT_H
+#ifndef ORBS_IIR_STATE_LAYOUT_H
+#define ORBS_IIR_STATE_LAYOUT_H
 
-#include "iir/sizes.h"
-#include "iir/state.h"
+#include "iir/state/sizes.h"
+#include "iir/state/state.h"
 #include "iir/tuning.h"
 
 namespace orbs::ORBS_VARIANT::iir {

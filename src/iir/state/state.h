@@ -5,8 +5,8 @@
 //   B biquads           b[0], b[1], b[2], a[1], a[2], section after section
 // The delay line is that of the transposed direct form II: N elements and one more that is always 0, so that
 // the last element needs no case of its own; or two for each section.
-#ifndef ORBS_IIR_STATE_H
-#define ORBS_IIR_STATE_H
+#ifndef ORBS_IIR_STATE_STATE_H
+#define ORBS_IIR_STATE_STATE_H
 
 #include "core/parts.h"
 #include "core/record.h"

@@ -1,6 +1,6 @@
 /* See checked_calls.h. Tests are linked so that their calls of an export arrive at its __wrap_ entry here. */
 
-#include "tests/support/checked_calls.h"
+#include "tests/support/checked_calls/checked_calls.h"
 
     .hidden orbsAfterCall
     .hidden orbsHasAvx

@@ -5,8 +5,8 @@
 // more: callers that are older than the 16-byte rule do so.
 //
 // The programs that use this are linked with --wrap for every export (checked_calls.S has the entries).
-#ifndef ORBS_TESTS_SUPPORT_CHECKED_CALLS_H
-#define ORBS_TESTS_SUPPORT_CHECKED_CALLS_H
+#ifndef ORBS_TESTS_SUPPORT_CHECKED_CALLS_CHECKED_CALLS_H
+#define ORBS_TESTS_SUPPORT_CHECKED_CALLS_CHECKED_CALLS_H
 
 // What the registers that belong to the caller hold during the call: this number and the ones that follow it.
 #define ORBS_KEPT_REGISTER 0x5AFE0000
