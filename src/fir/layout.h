@@ -1,5 +1,5 @@
-// What the block of a FIR state with floating-point taps holds: the one description from which Init and InitAlloc
-// take their numbers. The size query reports what sizes.h fixes.
+// What the block of a FIR state with floating-point taps holds: the one description from which Init and
+// InitAlloc take their numbers. The size query reports what sizes.h fixes.
 #ifndef ORBS_FIR_LAYOUT_H
 #define ORBS_FIR_LAYOUT_H
 

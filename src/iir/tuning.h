@@ -1,4 +1,5 @@
-// What differs between the variants of the IIR filters, and the sizes of the blocks that their kernels work on.
+// What differs between the variants of the IIR filters, and the sizes of the blocks that their kernels work
+// on.
 #ifndef ORBS_IIR_TUNING_H
 #define ORBS_IIR_TUNING_H
 

@@ -1,4 +1,5 @@
-// What FIR states with floating-point and with integer taps have in common, for the types that stand for them.
+// What FIR states with floating-point and with integer taps have in common, for the types that stand for
+// them.
 #ifndef ORBS_TESTS_FIR_STATE_FUNCTIONS_H
 #define ORBS_TESTS_FIR_STATE_FUNCTIONS_H
 

@@ -74,7 +74,8 @@ inline OrbStatus Init_32s(FIRFloatState** stateOut, const Orb32s* taps, Orb32s t
                           const Orb32s* delayLine, void* buffer) {
   if (AnyNull(stateOut, taps, buffer)) return StatusNullPointer;
   if (tapCount < 1) return StatusFirLength;
-  auto* state = reinterpret_cast<FIRFloatState*>(AlignUp(static_cast<unsigned char*>(buffer), kFirAlignment_32s));
+  auto* state =
+      reinterpret_cast<FIRFloatState*>(AlignUp(static_cast<unsigned char*>(buffer), kFirAlignment_32s));
   *stateOut = state;
   Build<Fir64f_32s>(state, taps, tapCount, delayLine, FirFftSizes{});
   return StatusOk;

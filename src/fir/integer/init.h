@@ -25,7 +25,8 @@ OrbStatus InitWith(FIRIntState** stateOut, const Given* taps, Orb32s tapCount,
                    const typename Kind::Data* delayLine, void* buffer, Store store) {
   if (AnyNull(stateOut, taps, buffer)) return StatusNullPointer;
   if (tapCount < 1) return StatusFirLength;
-  auto* state = reinterpret_cast<FIRIntState*>(AlignUp(static_cast<unsigned char*>(buffer), kFirIntAlignment));
+  auto* state =
+      reinterpret_cast<FIRIntState*>(AlignUp(static_cast<unsigned char*>(buffer), kFirIntAlignment));
   *stateOut = state;
   store(BuildFirInt<Kind>(state, tapCount, delayLine));
   return StatusOk;
