@@ -189,11 +189,10 @@ TEST_P(RandomTest, NoSpreadGivesTheMiddleAndMovesTheSeed) {
 // ---- Statuses ----
 
 TEST_P(RandomTest, BadArgumentsGiveTheirStatusAndChangeNothing) {
-  ForEachFunction(
-      [](auto* function) { CheckBadCalls(function); }, ORBS_NAMED(legacy90orbsRandUniform_Direct_16s),
-      ORBS_NAMED(legacy90orbsRandUniform_Direct_32f), ORBS_NAMED(legacy90orbsRandUniform_Direct_64f),
-      ORBS_NAMED(legacy90orbsRandGauss_Direct_16s), ORBS_NAMED(legacy90orbsRandGauss_Direct_32f),
-      ORBS_NAMED(legacy90orbsRandGauss_Direct_64f));
+  CheckBadCalls(ORBS_NAMED(legacy90orbsRandUniform_Direct_16s),
+                ORBS_NAMED(legacy90orbsRandUniform_Direct_32f),
+                ORBS_NAMED(legacy90orbsRandUniform_Direct_64f), ORBS_NAMED(legacy90orbsRandGauss_Direct_16s),
+                ORBS_NAMED(legacy90orbsRandGauss_Direct_32f), ORBS_NAMED(legacy90orbsRandGauss_Direct_64f));
 }
 
 }  // namespace

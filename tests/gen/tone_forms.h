@@ -47,12 +47,12 @@ std::vector<Orb16s> InPieces(size_t total, const Run& run) {
 // Memory with nothing but a state in it.
 template <size_t kBytes>
 struct StateMemory {
-  static constexpr size_t kMost = kBytes + 16;
-  alignas(16) unsigned char bytes[kMost];
+  static constexpr size_t kSize = kBytes + 16;
+  alignas(16) unsigned char bytes[kSize];
 
-  StateMemory() { std::memset(bytes, 0xA5, kMost); }
+  StateMemory() { std::memset(bytes, 0xA5, kSize); }
   bool HoldsNothingBut(size_t offset) const {
-    for (size_t i = 0; i < kMost; ++i) {
+    for (size_t i = 0; i < kSize; ++i) {
       if ((i < offset || i >= offset + kBytes) && bytes[i] != 0xA5) return false;
     }
     return true;

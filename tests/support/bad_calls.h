@@ -9,6 +9,7 @@
 
 #include "orbs90lgc/status.h"
 #include "tests/support/guarded_array.h"
+#include "tests/support/rows.h"
 #include "tests/support/samples.h"
 
 namespace orbs::test {
@@ -64,6 +65,11 @@ void CheckBadCalls(Status (*function)(Args...)) {
   }
   EXPECT_TRUE(block.Untouched());
   if constexpr (!std::is_void_v<Status>) CheckNullPointers(function);
+}
+
+template <class... Functions>
+void CheckBadCalls(const NamedFunction<Functions>&... rows) {
+  ForEachFunction([](auto* function) { CheckBadCalls(function); }, rows...);
 }
 
 }  // namespace orbs::test

@@ -304,12 +304,11 @@ TEST_P(SpectrumTest, ProductsByHand) {
 // ---- Statuses ----
 
 TEST_P(SpectrumTest, BadArgumentsGiveTheirStatusAndWriteNothing) {
-  ForEachFunction([](auto* function) { CheckBadCalls(function); }, ORBS_NAMED(legacy90orbsConjCcs_16sc),
-                  ORBS_NAMED(legacy90orbsConjPack_16sc), ORBS_NAMED(legacy90orbsConjPerm_16sc),
-                  ORBS_NAMED(legacy90orbsConjCcs_16sc_I), ORBS_NAMED(legacy90orbsConjPack_16sc_I),
-                  ORBS_NAMED(legacy90orbsConjPerm_16sc_I), ORBS_NAMED(legacy90orbsMulPack_16s_Sfs),
-                  ORBS_NAMED(legacy90orbsMulPack_16s_ISfs), ORBS_NAMED(legacy90orbsMulPerm_16s_Sfs),
-                  ORBS_NAMED(legacy90orbsMulPerm_16s_ISfs));
+  CheckBadCalls(ORBS_NAMED(legacy90orbsConjCcs_16sc), ORBS_NAMED(legacy90orbsConjPack_16sc),
+                ORBS_NAMED(legacy90orbsConjPerm_16sc), ORBS_NAMED(legacy90orbsConjCcs_16sc_I),
+                ORBS_NAMED(legacy90orbsConjPack_16sc_I), ORBS_NAMED(legacy90orbsConjPerm_16sc_I),
+                ORBS_NAMED(legacy90orbsMulPack_16s_Sfs), ORBS_NAMED(legacy90orbsMulPack_16s_ISfs),
+                ORBS_NAMED(legacy90orbsMulPerm_16s_Sfs), ORBS_NAMED(legacy90orbsMulPerm_16s_ISfs));
 }
 
 }  // namespace
