@@ -27,8 +27,8 @@ namespace orbs::ORBS_VARIANT::modem {
 // atan t = t (1 + c1 u + c2 u^2 + c3 u^3) / (1 + d1 u + d2 u^2 + d3 u^3), u = t^2, within 2e-9 for |t| <= 1.
 inline constexpr Orb32f kArctangentC[3] = {1.1202340126f, 0.28050455451f, 0.0085611892864f};
 inline constexpr Orb32f kArctangentD[3] = {1.4535671473f, 0.56503099203f, 0.049017589539f};
-inline constexpr Orb32f kHalfPi = 1.5707963705f;
-inline constexpr Orb32f kPi = 3.1415927410f;
+inline constexpr Orb32f kHalfPi32f = 1.5707963705f;
+inline constexpr Orb32f kPi32f = 3.1415927410f;
 inline constexpr Orb32f kStepsPerRadian = 10430.377930f;  // 32768 / pi
 inline constexpr Orb32s kWrapped = std::numeric_limits<Orb32s>::min();
 
@@ -56,8 +56,8 @@ ORBS_INLINE I32 PhaseStep(I32 re, I32 im) {
   const F32 t = Quotient(Min(absR, absI), Max(Max(absR, absI), F32::All(1)));
   const F32 u = t * t;
   F32 a = Quotient(t * CubicWithOne(u, kArctangentC), CubicWithOne(u, kArctangentD));
-  a = Select(Less(absR, absI), F32::All(kHalfPi) - a, a);
-  a = Select(Less(r, F32::Zero()), F32::All(kPi) - a, a);
+  a = Select(Less(absR, absI), F32::All(kHalfPi32f) - a, a);
+  a = Select(Less(r, F32::Zero()), F32::All(kPi32f) - a, a);
   return RoundToInt((a | (i & sign)) * F32::All(kStepsPerRadian));
 }
 
@@ -133,8 +133,8 @@ ORBS_INLINE Orb16s PhaseStep(Orb16sc z, Orb16sc before) {
   const Real u = t * t;
   const auto cubic = [u](const Orb32f(&c)[3]) { return 1 + u * (c[0] + u * (c[1] + u * c[2])); };
   Real a = t * cubic(kArctangentC) / cubic(kArctangentD);
-  if (swapped) a = kHalfPi - a;
-  if (r < 0 && r != kWrapped) a = kPi - a;
+  if (swapped) a = kHalfPi32f - a;
+  if (r < 0 && r != kWrapped) a = kPi32f - a;
   if (i < 0) a = -a;
   return FloatHalfAway<Orb16s>(a * kStepsPerRadian);
 }

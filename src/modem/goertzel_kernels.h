@@ -15,6 +15,7 @@
 #include <type_traits>
 
 #include "core/complex.h"
+#include "core/constants.h"
 #include "core/parts.h"
 #include "core/scaling.h"
 #include "core/variant.h"
@@ -35,7 +36,7 @@ struct Rotation {
 };
 
 ORBS_INLINE Rotation RotationOf(Orb64f relativeFrequency) {
-  const Orb64f angle = 2 * 3.14159265358979323846 * relativeFrequency;
+  const Orb64f angle = kTwoPi * relativeFrequency;
   return {cos(angle), sin(angle)};
 }
 

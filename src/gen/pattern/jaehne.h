@@ -5,18 +5,18 @@
 #include <math.h>
 
 #include "core/checks.h"
+#include "core/constants.h"
 #include "gen/generate.h"
 
 namespace orbs::ORBS_VARIANT::gen {
 
-inline constexpr Orb64f kHalfPi = 1.5707963267948966;
 inline constexpr Orb64f kMost = 2147483647.0;  // of the integers that the wave is rounded to
 
 #if ORBS_VECTOR
 
 inline constexpr Orb64f kOneByPi = 0.3183098861837907;
 // pi in four parts, the first three of 22 bits or fewer.
-inline constexpr Orb64f kPi[4] = {0x1.921FBp+1, 0x1.5110Bp-21, 0x1.184698p-43, 0x1.3198A2E037073p-68};
+inline constexpr Orb64f kPiParts[4] = {0x1.921FBp+1, 0x1.5110Bp-21, 0x1.184698p-43, 0x1.3198A2E037073p-68};
 // -1/3!, 1/5! ... 1/21!: the next term of the sine is below 2e-18 at pi / 2.
 inline constexpr Orb64f kSineSeries[10] = {-1.0 / 6,
                                            1.0 / 120,
@@ -37,7 +37,7 @@ ORBS_INLINE F64 Sine(F64 x) {
   const F64 k = sum - magic;
   // k has up to 31 bits: its products with the first three parts are exact, and so are two differences.
   F64 r = x;
-  ORBS_UNROLL for (const Orb64f part : kPi) r = NegMulAdd(k, F64::All(part), r);
+  ORBS_UNROLL for (const Orb64f part : kPiParts) r = NegMulAdd(k, F64::All(part), r);
   const F64 t = r * r;
   F64 series = F64::All(kSineSeries[9]);
   ORBS_UNROLL for (int i = 8; i >= 0; --i) series = MulAdd(series, t, F64::All(kSineSeries[i]));
@@ -52,7 +52,7 @@ struct Chirp {
   F64 lastIndex;
 
   Chirp(Orb32s len, Orb64f amplitudeOfAll)
-      : c(F64::All(kHalfPi / len)), amplitude(F64::All(amplitudeOfAll)), lastIndex(F64::All(len - 1)) {}
+      : c(F64::All(kPi / 2 / len)), amplitude(F64::All(amplitudeOfAll)), lastIndex(F64::All(len - 1)) {}
 
   ORBS_INLINE F64 operator()(Orb32s first) const {
     // A block may reach beyond the array; there it repeats the last element.
@@ -110,7 +110,7 @@ inline Orb64f Stored(Orb64f x) {
   return stored;
 }
 
-inline Orb64f PhaseFactor(Orb32s len) { return Stored(kHalfPi / len); }
+inline Orb64f PhaseFactor(Orb32s len) { return Stored(kPi / 2 / len); }
 
 // One element of the wave, rounded to the nearest integer.
 inline Orb32s ChirpElement(Orb64f c, Orb32s n, Orb64f amplitude) {

@@ -4,12 +4,12 @@
 
 #include <cstdint>
 
+#include "core/constants.h"
 #include "core/variant.h"
 #include "orbs90lgc/types.h"
 
 namespace orbs::ORBS_VARIANT::gen {
 
-inline constexpr Orb64f kTwoPi = 6.283185307179586;
 inline constexpr Orb64f kInverseTwoPi = 0.15915494309189535;
 
 // The largest Q15 numbers below 0.5 and below 2 pi.

@@ -10,6 +10,7 @@
 #if ORBS_VECTOR
 
 #include "simd/simd.h"
+#include "simd/sine_cosine.h"
 
 namespace orbs::ORBS_VARIANT::gen {
 
@@ -25,11 +26,6 @@ ORBS_INLINE Orb64f TurnsOfSample(long double origin, int64_t n, Orb64f rFreq) {
   const auto place = static_cast<Orb64f>(turns - static_cast<long double>(static_cast<int64_t>(turns)));
   return place < 1 ? place : 0;  // rounded up to 1
 }
-
-// Adding it to |x| < 2^51 rounds x to the nearest integer and leaves that in the low bits of the sum.
-ORBS_INLINE F64 RoundingBias() { return F64::All(0x1.8p52); }
-
-ORBS_INLINE F64 RoundToWhole(F64 x) { return (x + RoundingBias()) - RoundingBias(); }
 
 inline constexpr Orb64f kFirstNumbers[16] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
 

@@ -15,8 +15,9 @@
 #include <cstring>
 #include <type_traits>
 
-#include "gen/tone/tone_cosine.h"
 #include "gen/tone/tone_store.h"
+#include "gen/tone/tone_turns.h"
+#include "simd/sine_cosine.h"
 
 #if ORBS_VECTOR
 

@@ -27,8 +27,6 @@ struct TriangleSlopes {
 
 namespace orbs::ORBS_VARIANT::gen {
 
-inline constexpr Orb64f kPi = kTwoPi / 2;
-
 // A Q15 asymmetry lies between -kMaxAsymmetryQ15 and kMaxAsymmetryQ15.
 inline constexpr Orb32s kMaxAsymmetryQ15 = 102943;
 

@@ -5,12 +5,11 @@
 #include <math.h>
 
 #include "core/checks.h"
+#include "core/constants.h"
 #include "gen/window/window_apply.h"
 #include "simd/round_scaled.h"
 
 namespace orbs::ORBS_VARIANT::gen {
-
-inline constexpr Orb64f kTwoPi = 6.283185307179586;
 
 #if ORBS_VECTOR
 

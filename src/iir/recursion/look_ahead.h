@@ -59,11 +59,14 @@ class ZeroStateResponse {
     return sum.Value();
   }
   ORBS_INLINE F32 Across(F32 v) const {
-    if constexpr (!kHasHighQuarter) return v;
-    auto sum = RowSum<kParts>::From(v);
-    Unrolled<kReach>(
-        [&](auto k) { sum.Add(RowFactor<kParts>::template Of<kElements - 1 - k>(v), across_[k]); });
-    return sum.Value();
+    if constexpr (kHasHighQuarter) {
+      auto sum = RowSum<kParts>::From(v);
+      Unrolled<kReach>(
+          [&](auto k) { sum.Add(RowFactor<kParts>::template Of<kElements - 1 - k>(v), across_[k]); });
+      return sum.Value();
+    } else {
+      return v;
+    }
   }
 
  private:

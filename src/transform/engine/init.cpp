@@ -35,12 +35,11 @@ ORBS_INLINE Orb64f ScaleBySqrtN(Orb32s order) {
 #if ORBS_VECTOR
 
 template <class T>
-void BuildComplexTables(int order, SineTable<T> sine, const FftLayout<T>& layout, FftPlan<T>* plan,
-                        void* init) {
+void BuildComplexTables(int order, SineTable<T> sine, const FftLayout<T>&, FftPlan<T>* plan, void*) {
   if (ChooseEngine<T>(order) == FftEngine::onePass) {
     BuildVectorTables(order, sine, plan->tables.bitRev.In(plan), plan->tables.coreTw.In(plan));
   } else {
-    BuildVectorLarge(order, sine, layout, plan, init);
+    BuildVectorLarge(order, sine, plan);
   }
 }
 

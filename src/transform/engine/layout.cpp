@@ -25,7 +25,7 @@ void DescribeComplexTables(int order, FftForm form, FftLayout<T>* layout) {
   if (ChooseEngine<T>(order) == FftEngine::onePass) {
     DescribeOnePass(order, form, layout);
   } else {
-    DescribeVectorLarge(order, form, layout);
+    DescribeVectorLarge(order, layout);
   }
 }
 

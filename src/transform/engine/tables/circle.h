@@ -3,11 +3,10 @@
 #ifndef ORBS_TRANSFORM_ENGINE_TABLES_CIRCLE_H
 #define ORBS_TRANSFORM_ENGINE_TABLES_CIRCLE_H
 
+#include "core/constants.h"
 #include "core/variant.h"
 
 namespace orbs::ORBS_VARIANT::transform {
-
-inline constexpr long double kPi = 3.14159265358979323846264338327950288L;
 
 // The power series for |x| <= pi/4, from the first term on, where x^20 / 20! is below the last bit of a long
 // double.
@@ -28,10 +27,10 @@ constexpr long double CircleSeries(long double first, long double x, int firstPo
 constexpr long double QuarterSine(int k, int n) {
   const int mirrored = n / 4 - k;
   if (8 * k <= n) {
-    const long double x = 2 * kPi * static_cast<long double>(k) / static_cast<long double>(n);
+    const long double x = 2 * kExtendedPi * static_cast<long double>(k) / static_cast<long double>(n);
     return CircleSeries(x, x, 1);
   }
-  const long double x = 2 * kPi * static_cast<long double>(mirrored) / static_cast<long double>(n);
+  const long double x = 2 * kExtendedPi * static_cast<long double>(mirrored) / static_cast<long double>(n);
   return CircleSeries(1, x, 0);
 }
 

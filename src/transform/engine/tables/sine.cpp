@@ -93,7 +93,7 @@ void FillQuarter(int order, T* quarter) {
   constexpr int kLanes = F64::kLanes;
   // 2 pi as a number of 25 bits and the rest, so that k times the first part is exact.
   constexpr Orb64f kTwoPiHigh = 6.283185243606567;
-  constexpr auto kTwoPiLow = static_cast<Orb64f>(2 * kPi - static_cast<long double>(kTwoPiHigh));
+  constexpr auto kTwoPiLow = static_cast<Orb64f>(2 * kExtendedPi - static_cast<long double>(kTwoPiHigh));
   const Orb64f circle = static_cast<Orb64f>(Index{1} << order);
   const F64 stepHigh = F64::All(kTwoPiHigh / circle);
   const F64 stepLow = F64::All(kTwoPiLow / circle);
@@ -118,7 +118,7 @@ void FillQuarter(int order, T* quarter) {
 
 template <class T>
 void FillQuarter(int order, T* quarter) {
-  const long double step = 2 * kPi / static_cast<long double>(Index{1} << order);
+  const long double step = 2 * kExtendedPi / static_cast<long double>(Index{1} << order);
   const Index eighth = Index{1} << (order - 3);
   for (Index k = 0; k <= eighth; ++k) quarter[k] = static_cast<T>(sinl(static_cast<long double>(k) * step));
   for (Index k = eighth + 1; k <= 2 * eighth; ++k) {

@@ -75,7 +75,7 @@ void BuildVectorTables(int order, SineTable<T> sine, Orb32s* bitRev, T* coreTw) 
 }
 
 template <class T>
-void DescribeVectorLarge(int order, FftForm, FftLayout<T>* layout) {
+void DescribeVectorLarge(int order, FftLayout<T>* layout) {
   const int64_t rowReals = int64_t{2} << LargeRowOrder<T>(order);
   layout->tables.coreTw = layout->plan.template Add<T>(rowReals, 64);
   layout->tables.layerTw = layout->plan.template Add<T>(AllLongTableReals<T>(order), 64);
@@ -83,7 +83,7 @@ void DescribeVectorLarge(int order, FftForm, FftLayout<T>* layout) {
 }
 
 template <class T>
-void BuildVectorLarge(int order, SineTable<T> sine, const FftLayout<T>&, FftPlan<T>* plan, void*) {
+void BuildVectorLarge(int order, SineTable<T> sine, FftPlan<T>* plan) {
   const int rowOrder = LargeRowOrder<T>(order);
   BuildPassTwiddles(rowOrder, sine.Of(rowOrder), plan->tables.coreTw.In(plan));
   BuildLongTables(order, sine, plan->tables.layerTw.In(plan));
@@ -91,8 +91,8 @@ void BuildVectorLarge(int order, SineTable<T> sine, const FftLayout<T>&, FftPlan
 
 #define ORBS_INSTANTIATE(T)                                           \
   template void BuildVectorTables<T>(int, SineTable<T>, Orb32s*, T*); \
-  template void DescribeVectorLarge<T>(int, FftForm, FftLayout<T>*);  \
-  template void BuildVectorLarge<T>(int, SineTable<T>, const FftLayout<T>&, FftPlan<T>*, void*);
+  template void DescribeVectorLarge<T>(int, FftLayout<T>*);           \
+  template void BuildVectorLarge<T>(int, SineTable<T>, FftPlan<T>*);
 ORBS_INSTANTIATE(Orb32f)
 ORBS_INSTANTIATE(Orb64f)
 #undef ORBS_INSTANTIATE

@@ -35,9 +35,9 @@ void BuildVectorTables(int order, SineTable<T> sine, Orb32s* bitRev, T* coreTw);
 // Above the one-pass ceiling: what the plan and the init buffer hold (the sine table stands in the init
 // buffer already, and is given), and the work size.
 template <class T>
-void DescribeVectorLarge(int order, FftForm form, FftLayout<T>* layout);
+void DescribeVectorLarge(int order, FftLayout<T>* layout);
 template <class T>
-void BuildVectorLarge(int order, SineTable<T> sine, const FftLayout<T>& layout, FftPlan<T>* plan, void* init);
+void BuildVectorLarge(int order, SineTable<T> sine, FftPlan<T>* plan);
 
 }  // namespace orbs::ORBS_VARIANT::transform
 

@@ -1,12 +1,13 @@
 // Cosine and sine of angles given in turns, in vectors of binary64.
-#ifndef ORBS_GEN_TONE_TONE_COSINE_H
-#define ORBS_GEN_TONE_TONE_COSINE_H
+#ifndef ORBS_SIMD_SINE_COSINE_H
+#define ORBS_SIMD_SINE_COSINE_H
 
-#include "gen/tone/tone_turns.h"
+#include "core/constants.h"
+#include "simd/simd.h"
 
 #if ORBS_VECTOR
 
-namespace orbs::ORBS_VARIANT::gen {
+namespace orbs::ORBS_VARIANT {
 
 // Taylor coefficients in z = x^2. At the largest x, pi/4, the first term left out is 2e-18 of the cosine and
 // 5e-17 of the sine.
@@ -21,6 +22,11 @@ inline constexpr Orb64f kCosineTerms[] = {1.0,
                                           1.0 / 20922789888000};
 inline constexpr Orb64f kSineTerms[] = {-1.0 / 6,        1.0 / 120,        -1.0 / 5040,         1.0 / 362880,
                                         -1.0 / 39916800, 1.0 / 6227020800, -1.0 / 1307674368000};
+
+// Adding it to |x| < 2^51 rounds x to the nearest integer and leaves that in the low bits of the sum.
+ORBS_INLINE F64 RoundingBias() { return F64::All(0x1.8p52); }
+
+ORBS_INLINE F64 RoundToWhole(F64 x) { return (x + RoundingBias()) - RoundingBias(); }
 
 // Even and odd powers apart: two chains of half the length, since a short call waits for this one after the
 // other.
@@ -61,7 +67,7 @@ ORBS_INLINE void StoreCosineAndSine(F64 turns, Orb64f* cosines, Orb64f* sines) {
   s.Store(sines);
 }
 
-}  // namespace orbs::ORBS_VARIANT::gen
+}  // namespace orbs::ORBS_VARIANT
 
 #endif
 #endif
