@@ -63,9 +63,9 @@ OrbStatus Free(IIRState* state) {
   return StatusOk;
 }
 
-using Real = ArbitraryOrderOf<RealNumbers>;
+using RealArbitraryOrder = ArbitraryOrderOf<RealNumbers>;
 using RealBiQuad = CascadeOf<RealNumbers>;
-using Complex = ArbitraryOrderOf<ComplexNumbers>;
+using ComplexArbitraryOrder = ArbitraryOrderOf<ComplexNumbers>;
 using ComplexBiQuad = CascadeOf<ComplexNumbers>;
 
 }  // namespace orbs::ORBS_VARIANT::iir

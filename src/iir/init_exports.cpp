@@ -7,19 +7,19 @@ namespace orbs::ORBS_VARIANT {
 using namespace iir;
 
 OrbStatus legacy90orbsIIRGetStateSize32s_16s(Orb32s order, Orb32s* size) {
-  return GetStateSize<Real>(order, size);
+  return GetStateSize<RealArbitraryOrder>(order, size);
 }
 
 OrbStatus legacy90orbsIIRGetStateSize32s_16s32f(Orb32s order, Orb32s* size) {
-  return GetStateSize<Real>(order, size);
+  return GetStateSize<RealArbitraryOrder>(order, size);
 }
 
 OrbStatus legacy90orbsIIRGetStateSize32sc_16sc(Orb32s order, Orb32s* size) {
-  return GetStateSize<Complex>(order, size);
+  return GetStateSize<ComplexArbitraryOrder>(order, size);
 }
 
 OrbStatus legacy90orbsIIRGetStateSize32sc_16sc32fc(Orb32s order, Orb32s* size) {
-  return GetStateSize<Complex>(order, size);
+  return GetStateSize<ComplexArbitraryOrder>(order, size);
 }
 
 OrbStatus legacy90orbsIIRGetStateSize32s_BiQuad_16s(Orb32s sectionCount, Orb32s* size) {
@@ -40,22 +40,22 @@ OrbStatus legacy90orbsIIRGetStateSize32sc_BiQuad_16sc32fc(Orb32s sectionCount, O
 
 OrbStatus legacy90orbsIIRInit32s_16s(IIRState** stateOut, const Orb32s* taps, Orb32s order, Orb32s tapsFactor,
                                      const Orb32s* delayLine, void* buffer) {
-  return Init<Real>(stateOut, taps, order, delayLine, buffer, tapsFactor);
+  return Init<RealArbitraryOrder>(stateOut, taps, order, delayLine, buffer, tapsFactor);
 }
 
 OrbStatus legacy90orbsIIRInit32s_16s32f(IIRState** stateOut, const Orb32f* taps, Orb32s order,
                                         const Orb32s* delayLine, void* buffer) {
-  return Init<Real>(stateOut, taps, order, delayLine, buffer);
+  return Init<RealArbitraryOrder>(stateOut, taps, order, delayLine, buffer);
 }
 
 OrbStatus legacy90orbsIIRInit32sc_16sc(IIRState** stateOut, const Orb32sc* taps, Orb32s order,
                                        Orb32s tapsFactor, const Orb32sc* delayLine, void* buffer) {
-  return Init<Complex>(stateOut, taps, order, delayLine, buffer, tapsFactor);
+  return Init<ComplexArbitraryOrder>(stateOut, taps, order, delayLine, buffer, tapsFactor);
 }
 
 OrbStatus legacy90orbsIIRInit32sc_16sc32fc(IIRState** stateOut, const Orb32fc* taps, Orb32s order,
                                            const Orb32sc* delayLine, void* buffer) {
-  return Init<Complex>(stateOut, taps, order, delayLine, buffer);
+  return Init<ComplexArbitraryOrder>(stateOut, taps, order, delayLine, buffer);
 }
 
 OrbStatus legacy90orbsIIRInit32s_BiQuad_16s(IIRState** stateOut, const Orb32s* taps, Orb32s sectionCount,
@@ -81,22 +81,22 @@ OrbStatus legacy90orbsIIRInit32sc_BiQuad_16sc32fc(IIRState** stateOut, const Orb
 
 OrbStatus legacy90orbsIIRInitAlloc32s_16s(IIRState** stateOut, const Orb32s* taps, Orb32s order,
                                           Orb32s tapsFactor, const Orb32s* delayLine) {
-  return InitAlloc<Real>(stateOut, taps, order, delayLine, tapsFactor);
+  return InitAlloc<RealArbitraryOrder>(stateOut, taps, order, delayLine, tapsFactor);
 }
 
 OrbStatus legacy90orbsIIRInitAlloc32s_16s32f(IIRState** stateOut, const Orb32f* taps, Orb32s order,
                                              const Orb32s* delayLine) {
-  return InitAlloc<Real>(stateOut, taps, order, delayLine);
+  return InitAlloc<RealArbitraryOrder>(stateOut, taps, order, delayLine);
 }
 
 OrbStatus legacy90orbsIIRInitAlloc32sc_16sc(IIRState** stateOut, const Orb32sc* taps, Orb32s order,
                                             Orb32s tapsFactor, const Orb32sc* delayLine) {
-  return InitAlloc<Complex>(stateOut, taps, order, delayLine, tapsFactor);
+  return InitAlloc<ComplexArbitraryOrder>(stateOut, taps, order, delayLine, tapsFactor);
 }
 
 OrbStatus legacy90orbsIIRInitAlloc32sc_16sc32fc(IIRState** stateOut, const Orb32fc* taps, Orb32s order,
                                                 const Orb32sc* delayLine) {
-  return InitAlloc<Complex>(stateOut, taps, order, delayLine);
+  return InitAlloc<ComplexArbitraryOrder>(stateOut, taps, order, delayLine);
 }
 
 OrbStatus legacy90orbsIIRInitAlloc32s_BiQuad_16s(IIRState** stateOut, const Orb32s* taps, Orb32s sectionCount,

@@ -2,6 +2,7 @@
 #ifndef ORBS_IIR_RECURSION_NUMBER_H
 #define ORBS_IIR_RECURSION_NUMBER_H
 
+#include "core/complex.h"
 #include "core/parts.h"
 #include "core/variant.h"
 
@@ -47,7 +48,8 @@ struct Number {
     if constexpr (kParts == 1) {
       return {{a.part[0] * b.part[0]}};
     } else {
-      return {{a.part[0] * b.part[0] - a.part[1] * b.part[1], a.part[0] * b.part[1] + a.part[1] * b.part[0]}};
+      const Complex<T> product = Complex<T>{a.part[0], a.part[1]} * Complex<T>{b.part[0], b.part[1]};
+      return {{product.re, product.im}};
     }
   }
 };
