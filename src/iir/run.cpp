@@ -33,7 +33,7 @@ void RunShort(const Orb32f* b, const Orb32f* rows, const Orb32f* u, Orb32f* y, O
 template <class Work>
 void RunLong(const Work* b, const Orb64f* rows, Orb32s order, const Work* x, Work* y, Orb32s count) {
   constexpr int kParts = PartsOf<Work>::kCount;
-  Work reversed[kIirPiece / 4 + 1];
+  Work reversed[kMostBlockUnits + 1];
   for (Orb32s k = 0; k <= order; ++k) reversed[k] = b[order - k];
   SlidingProducts(x, reversed, order + 1, y + order, static_cast<size_t>(count - order));
   RunLongRecursion<kParts>(rows, order, Parts(y), count);

@@ -11,6 +11,9 @@ namespace orbs::ORBS_VARIANT::iir {
 
 // Samples of a piece: two blocks of them, with the tables, stay in the first-level cache.
 inline constexpr Orb32s kIirPiece = 1024;
+// The largest order, or number of sections, that goes by blocks. With pieces no longer than four times that
+// many samples, the first samples and the tables cost more than they yield.
+inline constexpr Orb32s kMostBlockUnits = kIirPiece / 4;
 
 // A row of the look-ahead table. For the orders 1 and 2, and so for biquads, it is in binary32 and for two
 // vectors of results; for higher orders in binary64 and for four results, which is what the states of real

@@ -19,7 +19,7 @@ namespace orbs::ORBS_VARIANT::iir {
 //   T[k][0] = c[k],   T[k][i] = c[1] T[k][i-1] + ... + c[i] T[k][0] + c[k+i]
 // The sums are made in binary64 and rounded at most once: the errors of the rows act like errors of
 // coefficients, and for poles near 1 the rows nearly cancel. For order 2 the first row has a part of the
-// second, see layout.h. For |c[1]| far above 1 rows pass the range of their type. They are
+// second, see state/layout.h. For |c[1]| far above 1 rows pass the range of their type. They are
 // limited: the results still saturate, and zeros stay zeros, since 0 times infinity would be NaN.
 template <class Kind, class Part>
 void StoreLookAheadRows(const typename Kind::Work* a, Orb32s order, Orb32s elements, Part* rows) {

@@ -61,7 +61,7 @@ class LongRecursion {
   static constexpr int kLanes = F64::kLanes;
   static constexpr int kRoundParts = kRound * kParts;
   static constexpr int kTableRow = kRowElements * kParts;
-  static constexpr int kMostOrders = kIirPiece / 4;
+  static constexpr int kMostOrders = kMostBlockUnits;
   // Rows that reach from one vector into the next.
   static constexpr int kReach = kElements < kNear ? kElements : kNear;
   using Sum = ProductSum<F64, kParts>;
